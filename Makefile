@@ -1,0 +1,44 @@
+# Two commands do everything from a bare Debian 12 machine:
+#   make run    build the program and show the example device
+#   make test   build the tests with sanitizers and run them
+# Both install missing packages through scripts/setup first.
+
+JOBS := $(shell nproc)
+EXAMPLES := examples
+
+.PHONY: run test program setup bench fuzz format tidy clean
+
+run: program
+	scripts/run-example build/release/bin/ioview $(EXAMPLES)
+
+test: program
+	cmake --preset asan
+	cmake --build --preset asan -j$(JOBS)
+	ctest --preset asan -j$(JOBS)
+	scripts/fuzz-short 10
+
+# The optimised program, with its benchmarks, in build/release/bin.
+program: setup
+	cmake --preset release
+	cmake --build --preset release -j$(JOBS)
+
+setup:
+	scripts/setup
+
+# The table of docs/performance.md.
+bench: program
+	build/release/bin/benchmarks
+
+# Ten minutes for each fuzz target.
+fuzz: setup
+	scripts/fuzz-short 600
+
+format: setup
+	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+tidy: setup
+	cmake --preset dev
+	git ls-files '*.cpp' | grep -v '^fuzz/' | xargs clang-tidy -p build/dev --quiet
+
+clean:
+	rm -rf build
