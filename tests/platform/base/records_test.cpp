@@ -1,0 +1,176 @@
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+#include "platform/base/bstr.h"
+#include "platform/base/guid.h"
+#include "platform/base/message_box.h"
+#include "platform/base/system.h"
+#include "platform/base/variant.h"
+#include "tests/platform/base/scratch.h"
+
+namespace platform {
+namespace {
+
+TEST(GuidTest, TextGoesBothWays) {
+  constexpr std::string_view kText = "{80D58C53-E47D-11D3-8AF5-00AA0026624A}";
+  constexpr GUID kGuid = MakeGuid(kText);
+  EXPECT_EQ(kGuid.data1, 0x80D58C53u);
+  EXPECT_EQ(kGuid.data3, 0x11D3);
+  EXPECT_THAT(kGuid.data4, testing::ElementsAre(0x8A, 0xF5, 0x00, 0xAA, 0x00, 0x26, 0x62, 0x4A));
+  EXPECT_EQ(GuidText(kGuid), kText);
+  EXPECT_EQ(ParseGuid("{80d58c53-e47d-11d3-8af5-00aa0026624a}"), kGuid);
+  for (const char* text :
+       {"", "80D58C53-E47D-11D3-8AF5-00AA0026624A", "{80D58C53-E47D-11D3-8AF5-00AA0026624}",
+        "{80D58C53-E47D-11D3-8AF5-00AA0026624G}", "{80D58C53+E47D-11D3-8AF5-00AA0026624A}",
+        "{80D58C53-E47D-11D3-8AF5-00AA0026624A} "}) {
+    EXPECT_EQ(ParseGuid(text), std::nullopt) << text;
+  }
+}
+
+TEST(BstrTest, CarriesItsLengthInFront) {
+  const ScopedBstr text(std::u16string_view(u"a\0\u3042", 3));
+  EXPECT_EQ(SysStringLen(text.Get()), 3u);
+  EXPECT_EQ(text.Get()[3], 0);
+  std::uint32_t bytes = 0;
+  std::memcpy(&bytes, reinterpret_cast<const char*>(text.Get()) - 4, 4);
+  EXPECT_EQ(bytes, 6u);
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(text.Get()) % 16, 0u);
+  EXPECT_EQ(text.Text(), std::string("a\0\u3042", 5));
+}
+
+TEST(BstrTest, NullIsTheEmptyText) {
+  EXPECT_EQ(SysStringLen(nullptr), 0u);
+  EXPECT_EQ(BstrText(nullptr), "");
+  SysFreeString(nullptr);
+  const ScopedBstr empty("");
+  EXPECT_NE(empty.Get(), nullptr);
+  EXPECT_EQ(empty.Text(), "");
+}
+
+TEST(BstrTest, TextGoesThroughThePage) {
+  const CodePageScope scope(1252);
+  ScopedBstr text("caf\xE9");
+  EXPECT_EQ(std::u16string_view(text.Get()), u"caf\u00e9");
+  *text.Receive() = NewBstr("na\xEFve");  // frees the one before
+  EXPECT_EQ(text.Text(), "na\xEFve");
+}
+
+TEST(VariantTest, AnArrayOwnsItsElements) {
+  ScopedVariant list;
+  VARIANT* variant = list.Receive();
+  variant->vt = VT_ARRAY | VT_BSTR;
+  variant->parray = SafeArrayCreateVector(VT_VARIANT, 2);
+  SAFEARRAY* array = list.Get().parray;
+  EXPECT_EQ(SafeArrayGetCount(array), 2u);
+  EXPECT_EQ(SafeArrayGetVartype(array), VT_VARIANT);
+  EXPECT_EQ(SafeArrayVariantAt(array, 1)->vt, VT_EMPTY);
+  *SafeArrayVariantAt(array, 0) = VARIANT{VT_BSTR, {NewBstr("freed with the array")}};
+  EXPECT_EQ(SafeArrayVariantAt(array, 2), nullptr);
+  EXPECT_EQ(SafeArrayBstrAt(array, 0), nullptr);
+
+  EXPECT_EQ(list.Receive()->vt, VT_EMPTY);
+  VariantClear(nullptr);
+}
+
+TEST(VariantTest, AnArrayOfStringsStartsEmpty) {
+  SAFEARRAY* array = SafeArrayCreateVector(VT_BSTR, 2);
+  EXPECT_EQ(*SafeArrayBstrAt(array, 1), nullptr);
+  *SafeArrayBstrAt(array, 1) = NewBstr("freed with the array");
+  EXPECT_EQ(SafeArrayVariantAt(array, 0), nullptr);
+  SafeArrayDestroy(array);
+
+  EXPECT_EQ(SafeArrayCreateVector(VT_UI1, 1), nullptr);
+  EXPECT_EQ(SafeArrayCreateVector(VT_BSTR, ~std::size_t{0}), nullptr);
+  EXPECT_EQ(SafeArrayGetCount(nullptr), 0u);
+  EXPECT_EQ(SafeArrayVariantAt(nullptr, 0), nullptr);
+  SafeArrayDestroy(nullptr);
+}
+
+TEST(VariantTest, NestingOfAnyDepthIsFreed) {
+  VARIANT outer;
+  for (int depth = 0; depth < 200'000; ++depth) {
+    SAFEARRAY* array = SafeArrayCreateVector(VT_VARIANT, 1);
+    *SafeArrayVariantAt(array, 0) = outer;
+    outer.vt = VT_ARRAY | VT_VARIANT;
+    outer.parray = array;
+  }
+  VariantClear(&outer);
+  EXPECT_EQ(outer.vt, VT_EMPTY);
+}
+
+class Recorder : public MessagePresenter {
+ public:
+  void Show(const MessageBoxRequest& request) override { shown.push_back(request); }
+  void Beep() override { ++beeps; }
+
+  std::vector<MessageBoxRequest> shown;
+  int beeps = 0;
+};
+
+TEST(MessageBoxTest, GoesToThePresenterThatCounts) {
+  Recorder recorder;
+  MessagePresenter* before = SetMessagePresenter(&recorder);
+  MessageBox("Load failed.", MB_ICONSTOP, "I/O");
+  MessageBeep();
+  EXPECT_EQ(SetMessagePresenter(nullptr), &recorder);
+  MessageBox("shown nowhere");
+  MessageBeep();
+  SetMessagePresenter(before);
+
+  ASSERT_EQ(recorder.shown.size(), 1u);
+  EXPECT_EQ(recorder.shown[0].text, "Load failed.");
+  EXPECT_EQ(recorder.shown[0].caption, "I/O");
+  EXPECT_EQ(recorder.shown[0].type, MB_ICONSTOP);
+  EXPECT_EQ(recorder.beeps, 1);
+}
+
+class SystemTest : public ScratchTest {
+ protected:
+  ~SystemTest() override {
+    System() = SystemRecord{};
+    tmpdir_.empty() ? unsetenv("TMPDIR") : setenv("TMPDIR", tmpdir_.c_str(), 1);
+    user_.empty() ? unsetenv("USER") : setenv("USER", user_.c_str(), 1);
+  }
+
+ private:
+  static std::string Value(const char* name) { return std::getenv(name) != nullptr ? std::getenv(name) : ""; }
+
+  std::string tmpdir_ = Value("TMPDIR");
+  std::string user_ = Value("USER");
+};
+
+TEST_F(SystemTest, TheTempDirectoryEndsInABackslash) {
+  setenv("TMPDIR", Native("t").c_str(), 1);
+  EXPECT_EQ(GetTempPath(), "d:\\t\\");
+  setenv("TMPDIR", "relative", 1);
+  EXPECT_EQ(GetTempPath(), "c:\\tmp\\");
+  SetDriveRoot('c', root + "/c");
+  SetDriveRoot('d', "");
+  EXPECT_EQ(GetTempPath(), "c:\\windows\\") << "no drive shows the machine's own";
+  System().temp_directory = "q:\\temp\\";
+  EXPECT_EQ(GetTempPath(), "q:\\temp\\");
+}
+
+TEST_F(SystemTest, TheUserIsTheRecordsThenTheMachines) {
+  setenv("USER", "j\u00f6rg", 1);
+  const CodePageScope scope(1252);
+  EXPECT_EQ(GetUserName(), "j\xF6rg");
+  System().user = "anna";
+  EXPECT_EQ(GetUserName(), "anna");
+}
+
+TEST_F(SystemTest, TheProfileKnowsTheLanguageAlone) {
+  EXPECT_EQ(GetProfileString("INTL", "slanguage", "xyz", 9), "eng");
+  System().language = "japanese.long";
+  EXPECT_EQ(GetProfileString("intl", "sLanguage", "eng", 9), "japanese");
+  EXPECT_EQ(GetProfileString("intl", "sLanguage", "eng", 0), "");
+  System().language = "";
+  EXPECT_EQ(GetProfileString("intl", "sLanguage", "eng", 9), "eng");
+  EXPECT_EQ(GetProfileString("intl", "sCountry", "none", 9), "none");
+}
+
+}  // namespace
+}  // namespace platform
