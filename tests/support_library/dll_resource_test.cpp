@@ -1,0 +1,173 @@
+#include "support/dll_resource.h"
+
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+#include "platform/base/paths.h"
+#include "platform/base/resources.h"
+#include "tests/support/temp_dir.h"
+#include "tests/support_library/modules/library_script.h"
+
+namespace pvw {
+namespace {
+
+using test::LibraryScript;
+using test::TempDir;
+using test::TextAnswer;
+using testing::ElementsAre;
+
+const std::string kScripted = BINARY_DIR "/test_modules/scripted_library.so";
+const std::string kBare = BINARY_DIR "/test_modules/bare_library.so";
+
+std::string DrivePath(const std::string& native) {
+  return platform::FromNativePath(native).value();
+}
+
+bool IsLoaded(const std::string& native) {
+  void* module = dlopen(native.c_str(), RTLD_NOW | RTLD_NOLOAD);
+  if (module != nullptr) dlclose(module);
+  return module != nullptr;
+}
+
+// Keeps the scripted library loaded, so that what a test sets in its script is there when the loader comes.
+class Scripted {
+ public:
+  Scripted() : module_(platform::LoadLibrary(DrivePath(kScripted))) {}
+  Scripted(const Scripted&) = delete;
+  Scripted& operator=(const Scripted&) = delete;
+  ~Scripted() { platform::FreeLibrary(module_); }
+
+  LibraryScript& operator*() const { return *platform::GetProc<LibraryScript*()>(module_, "GetScript")(); }
+  LibraryScript* operator->() const { return &**this; }
+
+ private:
+  platform::HMODULE module_;
+};
+
+TEST(ResourceLibrary, IsAcceptedOnlyAsOfTheRightTypeAndVersion) {
+  const std::string path = DrivePath(kScripted);
+  const std::string no_resources = "Dll " + path + " is not a resources Dll";
+  const std::string wrong_version = "Incorrect version of Resources - exiting";
+  struct Row {
+    const char* name;
+    LibraryScript script;
+    std::string error;  // empty: accepted
+  };
+  const Row rows[] = {
+      {"a good one", {}, ""},
+      {"the type in lower case", {.type = {{"resource"}}}, no_resources},
+      {"a type that it fills in and refuses to tell", {.type = {{"Resource", -1}}}, no_resources},
+      {"a newer interface", {.minor = 1}, wrong_version},
+      {"another ordinal version", {.ordinal = 2}, wrong_version},
+      {"another product version", {.product = {{"1.0.1"}}}, wrong_version},
+      {"a product version that never fits", {.product = {{"1.0", 1, 2000}}}, wrong_version},
+      {"wrong in both, and the type is told", {.ordinal = 2, .type = {{""}}}, no_resources},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    {
+      const Scripted script;
+      *script = row.script;
+      std::string error;
+      const auto library = LoadResourceLibrary(path, error);
+      EXPECT_EQ(error, row.error);
+      ASSERT_EQ(library != nullptr, row.error.empty());
+      EXPECT_EQ(platform::ResourceModule(), library == nullptr ? nullptr : library->Module());
+    }
+    EXPECT_FALSE(IsLoaded(kScripted)) << "a refused library is freed, an accepted one with its object";
+    EXPECT_EQ(platform::ResourceModule(), nullptr);
+  }
+}
+
+TEST(ResourceLibrary, TellsWhyAFileCantBeLoaded) {
+  const TempDir dir;
+  std::string error;
+  for (const std::string& path :
+       {dir.Path("missing.dll"), dir.Write("a%s.dll", "text"), dir.Path(), std::string()}) {
+    EXPECT_EQ(LoadResourceLibrary(path, error), nullptr);
+    EXPECT_EQ(error, "Error loading resource DLL " + path);
+  }
+  EXPECT_EQ(LoadResourceLibrary(DrivePath(kBare), error), nullptr);
+  EXPECT_EQ(error, "Dll " + DrivePath(kBare) + " is not a resources Dll") << "it lacks every export";
+  EXPECT_FALSE(IsLoaded(kBare));
+}
+
+TEST(ResourceLibrary, GetsASecondBufferOfTheSizeThatItAsksFor) {
+  struct Row {
+    const char* name;
+    std::vector<TextAnswer> answers;
+    std::vector<std::string> asked;
+    std::string read;
+  };
+  const std::vector<std::string> once = {"product 1024 zeroed"};
+  const Row rows[] = {
+      {"the first buffer is large enough", {{"1.0"}}, once, "1.0"},
+      {"the second one is", {{"*", 40, 2000}, {"1.0"}}, {once[0], "product 2000 zeroed"}, "1.0"},
+      {"neither is, and there is no third", {{"*", 1, 5}, {"1", 1, 9}}, {once[0], "product 5 zeroed"}, ""},
+      {"a size of nothing", {{"*", 1, 0}, {nullptr}}, {once[0], "product 0 zeroed"}, ""},
+      {"a size that no text has gets no second call", {{"*", 1, 0xFFFFFFFF}}, once, ""},
+      {"a buffer filled to its last byte is read no further", {{"*"}}, once, std::string(1024, 'x')},
+      {"a refusal", {{"1.0", -5}}, once, ""},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    const Scripted script;
+    script->product = row.answers;
+    CDllResource library(DrivePath(kScripted));
+    ASSERT_TRUE(library.Load());
+    std::string error;
+    EXPECT_EQ(library.ReadProductVersion(error), 0);
+    EXPECT_EQ(script->asked, row.asked);
+    EXPECT_EQ(library.ProductVersion(), row.read);
+  }
+}
+
+TEST(ResourceLibrary, AnAssignedCopyHoldsTheModuleForItself) {
+  const std::string path = DrivePath(kScripted);
+  CDllResource copy(DrivePath(kBare));
+  ASSERT_TRUE(copy.Load());
+  {
+    const Scripted script;
+    std::string error;
+    const auto library = LoadResourceLibrary(path, error);
+    ASSERT_NE(library, nullptr);
+    EXPECT_THAT(script->asked,
+                ElementsAre("interface", "product 1024 zeroed", "ordinal", "type 1024 zeroed"));
+    copy.Assign(*library);
+    copy.Assign(copy);
+    EXPECT_FALSE(IsLoaded(kBare)) << "what it held before is freed";
+  }
+  EXPECT_TRUE(IsLoaded(kScripted));
+  EXPECT_EQ(copy.Path() + copy.Type() + copy.ProductVersion(), path + "Resource1.0");
+  EXPECT_EQ(copy.InterfaceMajor() + copy.OrdinalVersion(), 2u);
+
+  copy.Assign(CDllResource("c:\\other.dll"));
+  EXPECT_FALSE(IsLoaded(kScripted));
+  EXPECT_EQ(copy.Module(), nullptr);
+  EXPECT_EQ(copy.Path() + copy.Type(), "c:\\other.dll");
+}
+
+TEST(ResourceLibrary, LookupsGoToTheLatestInstanceThatIsStillConnected) {
+  const TempDir dir;
+  for (const char* name : {"a.so", "b.so", "c.so"}) std::filesystem::copy_file(kScripted, dir.Native(name));
+  std::string error;
+  auto a = LoadResourceLibrary(dir.Path("a.so"), error);
+  auto b = LoadResourceLibrary(dir.Path("b.so"), error);
+  auto c = LoadResourceLibrary(dir.Path("c.so"), error);
+  ASSERT_TRUE(a && b && c) << error;
+  EXPECT_NE(a->Module(), c->Module());
+
+  b.reset();
+  EXPECT_EQ(platform::ResourceModule(), c->Module()) << "an earlier one that goes changes nothing";
+  EXPECT_EQ(LoadResourceLibrary(DrivePath(kBare), error), nullptr);
+  EXPECT_EQ(platform::ResourceModule(), c->Module()) << "nor does one that is refused";
+  c.reset();
+  EXPECT_EQ(platform::ResourceModule(), a->Module());
+  a.reset();
+  EXPECT_EQ(platform::ResourceModule(), nullptr) << "the component alone";
+}
+
+}  // namespace
+}  // namespace pvw
