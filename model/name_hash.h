@@ -1,0 +1,16 @@
+// Names of sections and keys without regard to case: their hash and their equality.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace pvw {
+
+// Equal for names that are equal without regard to case. Seeded for each run of the program, so that no
+// file can be written whose names meet in one place.
+std::uint32_t NameHash(std::string_view name);
+
+// Without regard to case, by whole characters of the ANSI code page.
+bool NamesEqual(std::string_view a, std::string_view b);
+
+}  // namespace pvw

@@ -1,0 +1,163 @@
+// The selection on its way: from its text, onto the tree, and out of the tree again at a reload.
+
+#include "tests/model/record_tree.h"
+
+namespace pvw::test {
+namespace {
+
+using platform::S_OK;
+using testing::IsEmpty;
+
+TEST_F(RecordTreeTest, ATextIsReadAsFarAsItGoes) {
+  const struct {
+    const char* what;
+    const char* text;
+    const char* rows;
+  } kRows[] = {
+      {"empty", "", ""},
+      {"nothing selected", "{}", ""},
+      {"nested items", "{A?{B?{C?}D?}E?}", "A +!\n  B +!\n    C +!\n  D +!\nE +!\n"},
+      {"the first character isn't looked at", "xA?", "A +!\n"},
+      {"a question mark there isn't either", "?A?", "A +!\n"},
+      {"an empty nested selection", "{A?{}B?{", "A +!\nB +!\n"},
+      {"empty names", "{?{??}}", " +!\n +!\n +!\n"},
+      {"text behind the end is a name", "{A?}B?}", "A +!\n}B +!\n"},
+      {"a bracket inside a name", "{A{B?{C}D?}}", "A{B +!\n  C}D +!\n"},
+      {"broken off in a name", "{A?{B?C", "A +!\n  B +!\n"},
+      {"broken off inside", "{A?{B?{C?", "A +!\n  B +!\n    C +!\n"},
+      {"too many brackets end the nesting", "{A?{B?}}}C?}", "A +!\n  B +!\n}}C +!\n"},
+  };
+  for (const auto& row : kRows) {
+    data.ParseSelection(row.text);
+    EXPECT_EQ(Rows(data.GetSelection()), row.rows) << row.what;
+    data.DeleteSelection();
+  }
+}
+
+TEST_F(RecordTreeTest, AMissingModuleIsNeverReadAndKeepsWhatIsBelowIt) {
+  data.ParseSelection("{GONE?{R?{F?}}PORT?}");
+  Load(Definition(1, "[PORT]\nR=0\n"));
+  EXPECT_EQ(Rows(), "PORT +\nGONE +!\n  R +!\n    F +!\n");
+  EXPECT_TRUE(Record("GONE").AreChildrenKnown());
+  Record("GONE").SetExpanded(true);
+  host.ClearTranscript();
+  EXPECT_EQ(Refresh(), S_OK);
+  EXPECT_THAT(host.Transcript(), IsEmpty());
+}
+
+TEST_F(RecordTreeTest, ASelectionGoesToTheFirstRecordOfANameAndRepeatsAreMergedBelowModules) {
+  data.ParseSelection("{A?{X?X?R?}A?{Y?}X?{1?}X?{2?}}");
+  Load("[Modules]\nModule1=A\nModule2=A\n[A]\nR=0\nr=1\n");
+  EXPECT_EQ(Rows(), "A +\nA\nX +!\n  1 +!\nX +!\n  2 +!\n");
+  Open("A");
+  EXPECT_EQ(RowsOf("A"), "R | H'00000000 | 00 +\nr | H'00000000 | 00\nX +!\n");
+}
+
+TEST_F(RecordTreeTest, BitFieldsAreSelectedBelowTheirRegister) {
+  const std::string text = Definition(3,
+                                      "[PORT]\nreg0=A\nreg1=B\n[A]\nname=A\nreladdr=FF\nbitfield0="
+                                      "F\nbitfield1=G\n[B]\nname=B\nreladdr=1\nbitfield0=F\n"
+                                      "[F]\nname=FIELD\nbit=0\n[G]\nname=GONE\nbit=1\n");
+  data.ParseSelection("{PORT?{A?{FIELD?GONE?}B?}}");
+  Load(text);
+  Open("PORT");
+  const std::string fields = "  FIELD |  | 1 | RW +\n";
+  const std::string b = "B | H'00000001 | 01 | RW +\n  FIELD |  | 1 | RW\n";
+  EXPECT_EQ(RowsOf("PORT"), "A | H'000000FF | FF | RW +\n" + fields + "  GONE |  | 1 | RW +\n" + b);
+  // A field of the file that goes missing is no field of the register that takes it in.
+  std::string without = text;
+  without.replace(without.find("bitfield1"), 9, "ignored=1");
+  Load(without);
+  Open("PORT");
+  EXPECT_EQ(RowsOf("PORT"), "A | H'000000FF | FF | RW +\n" + fields + "  GONE +!\n" + b);
+  CIORec& gone = Record("PORT/A/GONE");
+  EXPECT_EQ(gone.GetRegister(), Record("PORT/A").GetRegister());
+  Load(without);
+  Open("PORT");
+  EXPECT_EQ(Record("PORT/A/GONE").GetParent(), &Record("PORT/A"));
+}
+
+TEST_F(RecordTreeTest, AReloadKeepsWhatIsSelectedFromTheTopDown) {
+  const std::string text = "[Modules]\nModule1=A\nModule2=B\nModule3=C\n[A]\nR=0\nS=1\n[B]\nT=2\n[C]\nU=3\n";
+  data.ParseSelection("{A?{R?}C?{U?V?}}");
+  Load(text);
+  Open("A");
+  Open("B");
+  Record("A/R").SetSelected(false);
+  Record("A/S").SetSelected(true);
+  Record("B/T").SetSelected(true);  // below a module that isn't
+  data.CollectSelection();
+  // C was never opened, so the old selection stands for it.
+  EXPECT_EQ(data.GetModule(0), nullptr);
+  EXPECT_EQ(Rows(data.GetSelection()), "A +\n  S | H'00000001 | 01 +\nC +!\n  U +!\n  V +!\n");
+  EXPECT_FALSE(data.GetSelection()[0]->IsExpanded()) << "no pane has it open any more";
+  file.Close();
+  Load("[Modules]\nModule1=C\nModule2=D\n[C]\nU=3\n");
+  EXPECT_EQ(Rows(), "C +\nD\nA +!\n  S +!\n");
+  Open("C");
+  EXPECT_EQ(RowsOf("C"), "U | H'00000003 | 03 +\nV +!\n");
+  Load(text);
+  Open("A");
+  EXPECT_EQ(RowsOf("A"), "R | H'00000000 | 00\nS | H'00000001 | 01 +\n");
+  for (const auto& module : data.GetModules())
+    EXPECT_EQ(module->SetSelected(false), module->GetName() != "B");
+  Load(text);
+  EXPECT_EQ(Rows(), "A\nB\nC\n");
+  EXPECT_THAT(data.GetSelection(), IsEmpty());
+}
+
+TEST_F(RecordTreeTest, AChildOutsideTheListIsNone) {
+  CIORec record("A", &host);
+  record.AddChild(std::make_unique<CIORec>("B", &record));
+  EXPECT_EQ(record.RemoveChild(1), nullptr);
+  EXPECT_EQ(record.GetChildren().size(), 1u);
+  EXPECT_NE(record.RemoveChild(0), nullptr);
+  EXPECT_THAT(record.GetChildren(), IsEmpty());
+}
+
+TEST_F(RecordTreeTest, NestingOfAnyDepthIsReadMarkedMergedPrunedAndDestroyed) {
+  constexpr int kDepth = 200000;
+  std::string text;
+  for (int i = 0; i < kDepth; ++i) text += "{A?";
+  data.ParseSelection(text + std::string(kDepth, '}') + "B?");
+  Load(Definition(1, ""));
+  CIORec* deepest = data.GetModule(1);
+  ASSERT_NE(deepest, nullptr);
+  int depth = 1;
+  for (; !deepest->GetChildren().empty(); ++depth) {
+    deepest = deepest->GetChildren()[0].get();
+    deepest->UpdateEnabled();
+  }
+  EXPECT_EQ(depth, kDepth);
+  EXPECT_TRUE(deepest->IsMissing());
+  Load("[Modules]\nModule1=A\n[A]\nR=0\n");
+  Open("A");
+  EXPECT_EQ(Record("A").GetChildren().size(), 2u);
+  deepest->UpdateEnabled();
+  EXPECT_TRUE(deepest->IsEnabled());
+  deepest->SetSelected(false);
+  Load(Definition(1, ""));
+}
+
+TEST_F(RecordTreeTest, TwentyThousandModulesMeetAsManySelectedOnes) {
+  constexpr int kModules = 20000;
+  std::string definition = "[Modules]\n";
+  std::string sections;
+  std::string selection = "{";
+  for (int i = 1; i <= kModules; ++i) {
+    const std::string name = "MODULE" + std::to_string(i);
+    definition += "Module" + std::to_string(i) + "=" + name + "\n";
+    sections += "[" + name + "]\nR=1\n";
+    selection += "Module " + std::to_string(i + kModules / 2) + "?{r?S?}";
+  }
+  data.ParseSelection(selection + "}");
+  Load(definition + sections);
+  EXPECT_EQ(data.GetModuleCount(), std::size_t{kModules} * 3 / 2);
+  for (int i = 0; i < kModules; ++i) Open(*data.GetModule(static_cast<std::size_t>(i)), false);
+  EXPECT_EQ(RowsOf("MODULE20000"), "R | H'00000001 | 00 +\nS +!\n");
+  data.CollectSelection();
+  EXPECT_EQ(data.GetSelection().size(), std::size_t{kModules});
+}
+
+}  // namespace
+}  // namespace pvw::test
