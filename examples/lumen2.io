@@ -1,0 +1,160 @@
+; Lumen LM-8, a controller for lamps: the registers in a file of version 2.
+; A module lists register sections. `id` of a register section gives name, address behind 0x, size (B, W, L),
+; address flag (I, A, R), radix of the value (H, D, B) and the section of its bit fields.
+
+[Modules]
+BaseAddress=0xFF0000
+FileVersion=2
+Module1=CLOCK
+Module2=INTC
+Module3=PORT
+Module4=TIMER
+Module5=SERIAL
+Module6=ADC
+
+[CLOCK]
+reg0=CLKCTL_REG
+reg1=CLKSTAT_REG
+reg2=STOPCTL_REG
+reg3=DEVICEID_REG
+reg4=REVISION_REG
+
+[CLKCTL_REG]
+id=CLKCTL 0xFF0000 W I H CLKCTL_BITS
+[CLKCTL_BITS]
+bit0=PLLON
+bit1=SOURCE 2
+bit4=DIVIDER 4
+bit12=KEY 4
+PROTECTION=CLK 5A
+[CLKSTAT_REG]
+id=CLKSTAT 0xFF0002 B I B CLKSTAT_BITS
+[CLKSTAT_BITS]
+bit0=LOCKED 1
+bit7=XTALFAIL 1
+[STOPCTL_REG]
+id=STOPCTL 0xFF0003 B I B STOPCTL_BITS
+[STOPCTL_BITS]
+BIT3=STOPTIM 1
+BIT4=STOPSER 1
+BIT5=STOPADC 1
+PROTECTION=STP 0xA5
+; The identity doesn't move with the base; the revision counts from the base that the file gives.
+[DEVICEID_REG]
+id=DEVICEID 0xFFFFFFF0 L A
+[REVISION_REG]
+id=REVISION 0x1F0 W R D
+
+[INTC]
+reg0=INTEN_REG
+reg1=INTFLAG_REG
+reg2=VECTOR_REG
+
+[INTEN_REG]
+id=INTEN 0xFF0020 L I B
+[INTFLAG_REG]
+id=INTFLAG 0xFF0024 L I H INTFLAG_BITS
+[INTFLAG_BITS]
+bit0=TIMIRQ 1
+bit1=SERIRQ 1
+bit2=ADCIRQ 1
+bit16=PORTIRQ 8
+bit31=WAKEUP 1
+[VECTOR_REG]
+id=VECTOR 0xFF0029 B I D
+
+[PORT]
+reg0=PDIR_REG
+reg1=PDATA_REG
+reg2=PPIN_REG
+
+[PDIR_REG]
+id=PDIR 0xFF0040 B I B
+[PDATA_REG]
+id=PDATA 0xFF0041 B I H PDATA_BITS
+[PDATA_BITS]
+bit0=LAMPS 6
+bit6=FAN 1
+bit7=BUZZER 1
+[PPIN_REG]
+id=PPIN 0xFF0042 B I B PPIN_BITS
+[PPIN_BITS]
+bit0=KEY0 1
+bit1=KEY1 1
+bit7=DOOR 1
+
+[TIMER]
+; The timer's registers can be edited while its stop bit, bit 3 of STOPCTL, reads 0.
+dep=STOPCTL_REG 3 0
+reg0=TCTL_REG
+reg1=TCOUNT_REG
+reg2=TPERIOD_REG
+reg3=TTOTAL_REG
+
+[TCTL_REG]
+id=TCTL 0xFF0060 B I H TCTL_BITS
+[TCTL_BITS]
+bit0=START 1
+bit1=PRESCALE 3
+bit4=MODE 2
+[TCOUNT_REG]
+id=TCOUNT 0xFF0062 W I D
+[TPERIOD_REG]
+id=TPERIOD 0xFF0064 W I D
+[TTOTAL_REG]
+id=TTOTAL 0xFF0066 L I D
+
+[SERIAL]
+dep=STOPCTL_REG 4 0
+reg0=SMODE_REG
+reg1=SRATE_REG
+reg2=SSTAT_REG
+reg3=SOUT_REG
+reg4=SFRAME_REG
+
+[SMODE_REG]
+id=SMODE 0xFF0080 B I H SMODE_BITS
+[SMODE_BITS]
+bit0=PARITY 2
+bit2=STOPBITS 1
+bit3=EIGHT 1
+[SRATE_REG]
+id=SRATE 0xFF0081 B I D
+[SSTAT_REG]
+id=SSTAT 0xFF0082 B I B SSTAT_BITS
+[SSTAT_BITS]
+bit5=TXEMPTY 1
+bit6=RXFULL 1
+bit7=OVERRUN 1
+[SOUT_REG]
+id=SOUT 0xFF0083 B I
+; Word and long registers may lie at any address; at an odd one the target is read byte by byte.
+[SFRAME_REG]
+id=SFRAME 0xFF0085 W I H SFRAME_BITS
+[SFRAME_BITS]
+bit0=NODE 5
+bit5=LEVEL 8
+bit13=KIND 3
+
+[ADC]
+dep=STOPCTL_REG 5 0
+reg0=ADCTL_REG
+reg1=BRIGHT_REG
+reg2=TEMP_REG
+reg3=LAMPSUM_REG
+
+[ADCTL_REG]
+id=ADCTL 0xFF00A1 B I H ADCTL_BITS
+[ADCTL_BITS]
+bit0=CHANNEL 3
+bit7=RUN 1
+[BRIGHT_REG]
+id=BRIGHT 0xFF00A2 W I D BRIGHT_BITS
+[BRIGHT_BITS]
+bit4=SAMPLE 12
+[TEMP_REG]
+id=TEMP 0xFF00A4 W I D TEMP_BITS
+[TEMP_BITS]
+bit4=SAMPLE 12
+[LAMPSUM_REG]
+id=LAMPSUM 0xFF00A7 L I H

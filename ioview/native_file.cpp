@@ -1,0 +1,62 @@
+#include "ioview/native_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "ioview/program_error.h"
+#include "platform/base/files.h"
+#include "platform/base/paths.h"
+
+namespace ioview {
+
+namespace {
+
+constexpr off_t kLargestFile = off_t{1} << 30;
+
+[[noreturn]] void Fail(const std::string& native, std::string_view text) {
+  throw ProgramError((native.empty() ? "''" : OneLine(native)) + ": " + std::string(text));
+}
+
+}  // namespace
+
+void RequireReadableFile(const std::string& native) {
+  // Opening a pipe or a device must not wait for its other end.
+  const int descriptor = open(native.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+  if (descriptor < 0) Fail(native, std::strerror(errno));
+  struct stat status {};
+  char first = 0;
+  const bool known = fstat(descriptor, &status) == 0;
+  const ssize_t count = known && S_ISREG(status.st_mode) ? read(descriptor, &first, 1) : 0;
+  const int error = errno;
+  close(descriptor);
+  if (!known || count < 0) Fail(native, std::strerror(error));
+  if (S_ISDIR(status.st_mode)) Fail(native, std::strerror(EISDIR));
+  // What the kernel makes up on the spot has contents and no size.
+  if (!S_ISREG(status.st_mode) || (count > 0 && status.st_size == 0)) Fail(native, "Not a regular file");
+  if (status.st_size > kLargestFile) Fail(native, "Larger than 1 GiB");
+}
+
+std::string ReadWholeFile(const std::string& native) {
+  RequireReadableFile(native);
+  std::optional<platform::FileContents> contents = platform::ReadNativeFile(native);
+  if (!contents) Fail(native, "Can't be read");
+  return std::move(contents->bytes);
+}
+
+std::string DrivePathOf(const std::string& native) {
+  std::error_code error;
+  const std::filesystem::path absolute = std::filesystem::absolute(native, error);
+  const std::optional<std::string> path = error ? std::nullopt : platform::FromNativePath(absolute.native());
+  if (!path) Fail(native, "Can't be written as a drive path in this code page");
+  return *path;
+}
+
+}  // namespace ioview

@@ -1,0 +1,19 @@
+// Files that the user named on the command line, by native path.
+#pragma once
+
+#include <string>
+
+namespace ioview {
+
+// Throws ProgramError, naming the file, unless it is a regular file that can be opened for reading and is no
+// larger than 1 GiB.
+void RequireReadableFile(const std::string& native);
+
+// The whole of such a file.
+std::string ReadWholeFile(const std::string& native);
+
+// The drive path of a file that exists. Throws ProgramError when its name, made absolute, can't be written as
+// one.
+std::string DrivePathOf(const std::string& native);
+
+}  // namespace ioview

@@ -1,0 +1,30 @@
+// Runs the built host program as a user does, and gives what came back.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace ioview::test {
+
+struct Outcome {
+  int status = -1;  // exit status; 128 and the signal's number for one that a signal ended
+  std::string out;
+  std::string err;
+};
+
+struct RunOptions {
+  std::filesystem::path directory = {};  // to run in; empty: this one
+  std::string output = {};               // a file in place of the collected standard output
+  bool obey_permissions = false;         // also as root, who may read any file otherwise
+};
+
+// A run of more than two minutes is ended by a signal.
+Outcome RunIoview(const std::vector<std::string>& arguments, const RunOptions& options = {});
+
+// False where permissions can't be made to count.
+bool CanObeyPermissions();
+
+std::string ReadFile(const std::filesystem::path& path);
+
+}  // namespace ioview::test
