@@ -50,6 +50,16 @@ void KeepSelected(CIORec& module) {
   }
 }
 
+// Moves the missing children of a record of the file to a record of the selection, behind those that it has.
+void ReturnMissing(CIORec& record, CIORec& selected) {
+  CIORec::Records children = record.TakeChildren();
+  for (auto& child : children) {
+    if (child->IsMissing()) selected.AdoptMissing(std::move(child));
+  }
+  EraseTaken(children);
+  record.SetChildren(std::move(children));
+}
+
 }  // namespace
 
 platform::Status CIOData::LoadModules(CIODataFile* file) {
@@ -130,7 +140,10 @@ CIORec* CIOData::FindSelected(const std::vector<std::string>& path) {
 
 void CIOData::ApplyChildSelection(CIORec* record, const std::vector<std::string>& path) {
   CIORec* const match = FindSelected(path);
-  if (match == nullptr || match->GetChildren().empty()) return;
+  if (match == nullptr) return;
+  // What an earlier attempt to open the record found missing may be there now.
+  ReturnMissing(*record, *match);
+  if (match->GetChildren().empty()) return;
   NameIndex index = IndexOf(record->GetChildren());
   CIORec::Records children = match->TakeChildren();
   for (auto& child : children) {
@@ -152,7 +165,11 @@ void CIOData::CollectSelection() {
   NameIndex templates = IndexOf(m_selection);
   for (auto& module : m_modules) {
     if (module->AreChildrenKnown() || !module->IsSelected()) continue;
-    if (const auto place = templates.TakeFirst(module->GetName())) module = std::move(m_selection[*place]);
+    const auto place = templates.TakeFirst(module->GetName());
+    if (!place) continue;
+    // A module that couldn't be opened has taken over what is selected in it.
+    ReturnMissing(*module, *m_selection[*place]);
+    module = std::move(m_selection[*place]);
   }
   DeleteSelection();
   for (auto& module : m_modules) {

@@ -4,8 +4,8 @@
 // appears as a missing record when it hasn't, so that a choice outlives a file that lacks what was chosen.
 //
 //   first load   ParseSelection, LoadModules, ApplySelection
-//   reload       CollectSelection, DeleteModules, then the file is closed and opened, LoadModules,
-//   ApplySelection each open    CIORec::LoadChildren, then ApplyChildSelection
+//   reload       CollectSelection, DeleteModules, closing and opening the file, LoadModules, ApplySelection
+//   each open    CIORec::LoadChildren, then ApplyChildSelection
 #pragma once
 
 #include <cstddef>

@@ -78,7 +78,8 @@ void CIORec::UpdateEnabled() {
   const bool enabled = m_pTop->IsConditionMet();
   m_bEnabled = enabled;
   m_pTop->m_bEnabled = enabled;
-  // A record between that agrees was brought up to date with all above it.
+  // Up to the first record that agrees: a chain can be long, and is updated from each of its records. One
+  // further up can be behind until its own update; the value comes from the top, so that misleads nobody.
   for (CIORec* record = m_pParent; record != nullptr && record->m_bEnabled != enabled;
        record = record->m_pParent) {
     record->m_bEnabled = enabled;
@@ -145,7 +146,7 @@ void CIORec::ForAll(Visit visit) {
 }
 
 void CIORec::MarkMissing() {
-  ForAll([](CIORec& record) { record.m_bMissing = true; });
+  ForAll([](CIORec& record) { record.SetMissing(true); });
 }
 
 void CIORec::LeaveForSelection() {

@@ -2,8 +2,8 @@
 //
 // The view, the edit commands and the test client treat a record through these operations without knowing its
 // kind. A record owns its children. Nesting can be deep where a selection text says so: nothing here walks
-// down or up by recursion, but for reads and writes, which stop at missing records. User-interface thread
-// only.
+// down or up by recursion, but for reads and writes, which stop at missing records, and Relocate, which stops
+// at registers. User-interface thread only.
 #pragma once
 
 #include <cstddef>
@@ -42,7 +42,7 @@ class CIORec {
 
   // The definition has moved by `delta`.
   virtual void Relocate(std::uint32_t delta);
-  // Takes over from the top-level record whether values may be edited, for this record and those above it.
+  // Takes over from the top-level record whether values may be edited.
   void UpdateEnabled();
   virtual bool IsEditable() const { return false; }
   // Writes a value to the target; true when a changed value has reached it. A value that is too big, and a
@@ -70,8 +70,6 @@ class CIORec {
   // The register that the value lies in; null for a record without a value.
   virtual CIORegisterID* GetRegister() { return nullptr; }
 
-  // The name in the file: the module's, or that of the key or section of a register or bit field.
-  const std::string& GetFileName() const { return m_name; }
   CIORec* GetParent() const { return m_pParent; }
   // False while a dependency of the module says that values can't be edited, as of the last UpdateEnabled.
   bool IsEnabled() const { return m_bEnabled; }
@@ -137,7 +135,7 @@ class CIORec {
   bool m_bMissing = false;
   std::int32_t m_expandCount = 0;
   Records m_children;
-  std::string m_name;
+  std::string m_name;  // in the file: the module's, or that of a key or section
   IQComponentHost* m_pHost;
   CIORec* m_pParent;
 

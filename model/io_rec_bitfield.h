@@ -19,8 +19,6 @@ class CIORecBitfield : public CIORec {
 
   void SetField(std::string name, std::int32_t bit, std::int32_t length);
   std::uint32_t GetFieldValue() const;
-  std::int32_t GetBit() const { return m_bit; }
-  std::int32_t GetLength() const { return m_length; }
 
   bool IsEditable() const override { return true; }
   // The cached value counts as it stands, and a value that the field has already is not written.

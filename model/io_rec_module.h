@@ -36,9 +36,7 @@ class CIORecModule : public CIORec {
   // Null without a dependency.
   const CIORegisterID* GetDependency() const { return m_pDepRegister.get(); }
 
-  bool IsLoaded() const { return m_bLoaded; }
   std::uint32_t GetAddress() const { return m_address; }
-  bool IsAbsolute() const { return m_bAbsolute; }
 
  protected:
   // Whether there is nothing to load now.

@@ -65,8 +65,7 @@ CIORegisterID& CIORegisterID::operator=(const CIORegisterID& other) {
   m_radix = other.m_radix;
   m_bitSection = other.m_bitSection;
   m_value = other.m_value;
-  m_protectionValue = other.m_protectionValue;
-  m_protectionTag = other.m_protectionTag;
+  m_protection = other.m_protection != nullptr ? std::make_unique<Protection>(*other.m_protection) : nullptr;
   m_pHost = other.m_pHost;
   return *this;
 }
@@ -84,8 +83,7 @@ void CIORegisterID::Set(RegisterDescription description) {
 }
 
 void CIORegisterID::SetProtection(std::string tag, std::uint32_t value) {
-  m_protectionTag = std::move(tag);
-  m_protectionValue = value;
+  m_protection = std::make_unique<Protection>(Protection{value, std::move(tag)});
 }
 
 platform::Status CIORegisterID::Read(IQDebugger* target) {

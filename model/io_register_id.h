@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "host/component_host.h"
@@ -51,11 +52,9 @@ class CIORegisterID {
   const std::string& GetName() const { return m_name; }
   std::uint32_t GetAddress() const { return m_address; }
   std::uint32_t GetSize() const { return m_size; }
-  Radix GetRadix() const { return m_radix; }
-  bool IsAbsolute() const { return m_bAbsolute; }
   const std::string& GetBitSection() const { return m_bitSection; }
-  const std::string& GetProtectionTag() const { return m_protectionTag; }
-  std::uint32_t GetProtectionValue() const { return m_protectionValue; }
+  std::string GetProtectionTag() const { return m_protection != nullptr ? m_protection->tag : std::string(); }
+  std::uint32_t GetProtectionValue() const { return m_protection != nullptr ? m_protection->value : 0; }
 
   // The last value read or about to be written. Reads set its low word only.
   std::uint64_t GetValue() const { return m_value; }
@@ -78,8 +77,12 @@ class CIORegisterID {
   Radix m_radix = Radix::kHexadecimal;
   std::string m_bitSection;
   std::uint64_t m_value = 0;
-  std::uint32_t m_protectionValue = 0;
-  std::string m_protectionTag;
+  // Few registers have one.
+  struct Protection {
+    std::uint32_t value;
+    std::string tag;
+  };
+  std::unique_ptr<Protection> m_protection;
   IQComponentHost* m_pHost;
   IQNumberFormat* m_pNumberFormat = nullptr;
   IQAddressFormat* m_pAddressFormat = nullptr;

@@ -6,8 +6,9 @@ namespace pvw {
 
 KeyList KeyList::UpTo(CIODataFile& file, std::string_view section, std::size_t size) {
   KeyList list;
-  list.m_buffer.resize(size);
-  list.m_used = file.GetKeys(section, list.m_buffer);
+  // Not cleared: most lists use a fraction of their buffer.
+  list.m_buffer = std::make_unique_for_overwrite<char[]>(size);
+  list.m_used = file.GetKeys(section, {list.m_buffer.get(), size});
   return list;
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string_view>
-#include <vector>
 
 #include "model/io_data_file.h"
 
@@ -18,12 +18,12 @@ class KeyList {
   static KeyList UpTo(CIODataFile& file, std::string_view section, std::size_t size);
 
   // The keys, each ended by a zero byte, or by the end of the text. Good as long as the list is.
-  std::string_view Text() const { return {m_buffer.data(), m_used}; }
+  std::string_view Text() const { return {m_buffer.get(), m_used}; }
   // Takes the first key off such a text.
   static std::string_view Next(std::string_view& rest);
 
  private:
-  std::vector<char> m_buffer;
+  std::unique_ptr<char[]> m_buffer;
   std::size_t m_used = 0;
 };
 

@@ -51,7 +51,7 @@ ProfileLine ParseProfileLine(std::string_view line) {
 
 ProfileText::ProfileText(std::string text) : m_text(std::move(text)) {
   assert(m_text.size() <= kMaxProfileText && "places in the text are 32 bits wide");
-  ReserveEntries();
+  Reserve();
   const auto place = [this](std::string_view part) {
     return static_cast<std::uint32_t>(part.empty() ? 0 : part.data() - m_text.data());
   };
@@ -72,11 +72,17 @@ ProfileText::ProfileText(std::string text) : m_text(std::move(text)) {
   if (counts) EndSection();
 }
 
-// There are no more entries than lines and no more than equals signs.
-void ProfileText::ReserveEntries() {
+// There are no more entries than lines and no more than equals signs. The sections of a real definition take
+// more than kBytesOfSection each; a text of shorter ones grows its table as it goes.
+void ProfileText::Reserve() {
+  constexpr std::size_t kBytesOfSection = 32;
   const auto lines = std::count(m_text.begin(), m_text.end(), '\n') + 1;
   const auto equals = std::count(m_text.begin(), m_text.end(), '=');
+  const auto brackets = std::count(m_text.begin(), m_text.end(), '[');
   m_entries.reserve(static_cast<std::size_t>(std::min(lines, equals)));
+  const auto sections = static_cast<std::size_t>(std::min(lines, brackets));
+  m_sections.reserve(std::min(sections, m_text.size() / kBytesOfSection));
+  m_sectionSlots.resize(std::bit_ceil(std::max<std::size_t>(8, m_sections.capacity()) * 2));
 }
 
 bool ProfileText::BeginSection(std::string_view name) {
@@ -105,7 +111,7 @@ void ProfileText::EndSection() {
 }
 
 void ProfileText::GrowSectionSlots() {
-  m_sectionSlots.assign(std::max<std::size_t>(16, m_sectionSlots.size() * 2), 0);
+  m_sectionSlots.assign(m_sectionSlots.size() * 2, 0);
   const std::size_t mask = m_sectionSlots.size() - 1;
   for (std::uint32_t i = 0; i < m_sections.size(); ++i) {
     std::size_t slot = m_sections[i].hash & mask;

@@ -77,7 +77,7 @@ class ProfileText {
     std::uint32_t valueSize;
   };
 
-  void ReserveEntries();
+  void Reserve();
   // False when the name has a section already.
   bool BeginSection(std::string_view name);
   void EndSection();

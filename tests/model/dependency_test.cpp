@@ -19,6 +19,7 @@ std::string Dependent(int version, const std::string& dep) {
 }
 
 TEST_F(RecordTreeTest, ADependencyFollowsTheBitAsItWasLastRead) {
+  data.ParseSelection("{PORT?{GONE?{DEEPER?}}}");
   for (const auto& [version, dep] :
        {std::pair(2, "dep=CLK  3 0"), {3, "dep_reg=clk\ndep_bit=35\ndep_val=0"}}) {
     host.Poke(0x20, {0xF7});
@@ -37,6 +38,7 @@ TEST_F(RecordTreeTest, ADependencyFollowsTheBitAsItWasLastRead) {
     EXPECT_TRUE(Record("PORT/PDATA/LOW").IsEnabled()) << "until it is updated";
     EXPECT_FALSE(enabled("PORT/PDATA/LOW"));
     EXPECT_FALSE(Record("PORT/PDATA").IsEnabled() || Record("PORT").IsEnabled()) << "those above come along";
+    EXPECT_FALSE(enabled("PORT/GONE/DEEPER")) << "as all that is below the module";
 
     host.Poke(0x20, {0xF7});
     host.FailNext("ReadDirect");
@@ -62,7 +64,7 @@ TEST_F(RecordTreeTest, WhatAModuleSaysOfItsDependency) {
       {"a value that no bit has", 2, "dep=CLK 3 2", S_OK, true, false, 0},
       {"a bit beyond 31 wraps", 2, "dep=CLK 35 0 x", S_OK, true, true, 0},
       {"no blank", 2, "dep=CLK", E_FAIL, false, true, 0},
-      {"a blank in front", 2, "dep=' CLK 3 0'", E_FAIL, false, true, 0},
+      {"a blank in front", 2, "dep=' 3 0'", E_FAIL, false, true, 0},
       {"a tab is no blank", 2, "dep=CLK\t3 0", E_FAIL, false, true, 0},
       {"one number, which is seen before the section's fault", 2, "dep=BAD 3", E_FAIL, false, true, 0},
       {"a section without a description", 2, "dep=NONE 3 0", E_FAIL, false, true, 1},

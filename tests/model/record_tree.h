@@ -85,8 +85,7 @@ class RecordTree {
   }
 
   // Records with all below them, a line each: the four columns up to their last text, "+" for a selected
-  // record,
-  // "!" for a missing one, which shows its name alone.
+  // record, "!" for a missing one, which shows its name alone.
   static std::string Rows(const CIORec::Records& records, const std::string& indent = "") {
     std::string rows;
     for (const auto& record : records) {

@@ -46,11 +46,13 @@ TEST_F(RecordTreeTest, AMissingModuleIsNeverReadAndKeepsWhatIsBelowIt) {
 }
 
 TEST_F(RecordTreeTest, ASelectionGoesToTheFirstRecordOfANameAndRepeatsAreMergedBelowModules) {
-  data.ParseSelection("{A?{X?X?R?}A?{Y?}X?{1?}X?{2?}}");
+  data.ParseSelection("{A?{X?X?R?{F?}}A?{Y?}X?{1?}X?{2?}}");
   Load("[Modules]\nModule1=A\nModule2=A\n[A]\nR=0\nr=1\n");
   EXPECT_EQ(Rows(), "A +\nA\nX +!\n  1 +!\nX +!\n  2 +!\n");
+  data.ApplyChildSelection(&Record("A"), {"nothing", "A"});  // looks below A before A has given anything up
   Open("A");
-  EXPECT_EQ(RowsOf("A"), "R | H'00000000 | 00 +\nr | H'00000000 | 00\nX +!\n");
+  data.ApplyChildSelection(&Record("A/r"), {"r", "A"});
+  EXPECT_EQ(RowsOf("A"), "R | H'00000000 | 00 +\nr | H'00000000 | 00\n  F +!\nX +!\n");
 }
 
 TEST_F(RecordTreeTest, BitFieldsAreSelectedBelowTheirRegister) {
@@ -72,6 +74,7 @@ TEST_F(RecordTreeTest, BitFieldsAreSelectedBelowTheirRegister) {
   EXPECT_EQ(RowsOf("PORT"), "A | H'000000FF | FF | RW +\n" + fields + "  GONE +!\n" + b);
   CIORec& gone = Record("PORT/A/GONE");
   EXPECT_EQ(gone.GetRegister(), Record("PORT/A").GetRegister());
+  EXPECT_FALSE(gone.SetValue(host.Debugger(), 0));
   Load(without);
   Open("PORT");
   EXPECT_EQ(Record("PORT/A/GONE").GetParent(), &Record("PORT/A"));
@@ -104,6 +107,14 @@ TEST_F(RecordTreeTest, AReloadKeepsWhatIsSelectedFromTheTopDown) {
   Load(text);
   EXPECT_EQ(Rows(), "A\nB\nC\n");
   EXPECT_THAT(data.GetSelection(), IsEmpty());
+  // Modules of one name take the selections of that name in their order.
+  data.DeleteModules();
+  file.Close();
+  data.ParseSelection("{A?{1?}A?{2?}}");
+  Load("[Modules]\nModule1=a\nModule2=A\n");
+  for (const auto& module : data.GetModules()) module->SetSelected(true);
+  data.CollectSelection();
+  EXPECT_EQ(Rows(data.GetSelection()), "A +!\n  1 +!\nA +!\n  2 +!\n");
 }
 
 TEST_F(RecordTreeTest, AChildOutsideTheListIsNone) {
