@@ -2,9 +2,11 @@
 
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <thread>
 #include <vector>
 
 #include "platform/base/paths.h"
@@ -28,6 +30,8 @@ Definition::Definition(int version, int registers) : m_native(TempFile()) {
   m_shape.registers = registers;
   std::ofstream(m_native, std::ios::binary) << GenerateDefinition(m_shape);
   m_path = platform::FromNativePath(m_native).value();
+  // A file that was just written is read again at each look, until no further write could go unseen.
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));
 }
 
 Definition::~Definition() {

@@ -1,8 +1,10 @@
 // Runs the benchmarks, then prints the ratios that count: each between two measurements of the same run.
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <cstdio>
+#include <limits>
 #include <map>
 #include <string>
 #include <vector>
@@ -32,9 +34,13 @@ class RatioReporter : public benchmark::ConsoleReporter {
                  "<= 10");
       }
       for (const int size : {1000, 10000, 100000}) {
+        Quotient("the same, against the index that it uses", "Open", "ReadAndOwnIndex", version, size, "");
+      }
+      for (const int size : {1000, 10000, 100000}) {
         Quotient("refresh, against its bare host calls", "Refresh", "BareHostCalls", version, size, "<= 5");
       }
-      for (const char* name : {"Open", "Refresh", "ApplySelection", "TextDump"}) Growth(name, version);
+      Growth("Open", version, "<= 1.3");
+      for (const char* name : {"Refresh", "ApplySelection", "TextDump"}) Growth(name, version, "");
     }
     for (const auto& [args, lookups] : m_lookups) {
       const double open = Seconds("OpenSixtyThousandLines " + args);
@@ -62,7 +68,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
     Print(std::string(what) + ", v" + std::to_string(version) + ", " + std::to_string(size), value / divisor,
           bound);
   }
-  void Growth(const std::string& name, int version) const {
+  void Growth(const std::string& name, int version, const char* bound) const {
     const double small = Seconds(name + " " + Args(version, 1000)) / 1000;
     const double large = Seconds(name + " " + Args(version, 100000)) / 100000;
     if (small <= 0 || large <= 0) return;
@@ -77,6 +83,10 @@ class RatioReporter : public benchmark::ConsoleReporter {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Memory stays with the process, so that what is measured is the program and not the kernel handing out
+  // pages.
+  mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+  mallopt(M_MMAP_MAX, 0);
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   RatioReporter reporter;
