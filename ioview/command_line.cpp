@@ -5,11 +5,14 @@
 #include <cstdio>
 #include <exception>
 #include <new>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ioview/commands/dump.h"
 #include "ioview/program_error.h"
+#include "ioview/standard_output.h"
 
 namespace ioview {
 
@@ -27,6 +30,42 @@ std::string FirstLine(const std::string& text) {
   return text.substr(0, text.find('\n'));
 }
 
+// Last argument first. `--name=` alone is an empty value; the library would take the next argument for it.
+// Behind `--` there are no options.
+std::vector<std::string> ReversedArguments(int argc, char** argv) {
+  std::vector<std::string> arguments;
+  bool options = true;
+  for (int i = 1; i < argc; ++i) {
+    std::string argument = argv[i];
+    if (argument == "--") options = false;
+    const bool empty_value = options && argument.size() > 3 && argument.starts_with("--") &&
+                             argument.find('=') == argument.size() - 1;
+    if (empty_value) argument.pop_back();
+    arguments.push_back(std::move(argument));
+    if (empty_value) arguments.emplace_back();
+  }
+  std::ranges::reverse(arguments);
+  return arguments;
+}
+
+// What is wrong with the command line. A word that means nothing is named before anything that is missing,
+// because it may be what was meant.
+std::string Complaint(const CLI::App& app, const CLI::ParseError& error) {
+  std::string command = "ioview";
+  if (app.remaining_size() == 0) {
+    for (const CLI::App* sub : app.get_subcommands()) command += ' ' + sub->get_name();
+  }
+  std::string text = FirstLine(error.what());
+  for (const std::string& word : app.remaining(true)) {
+    if (word == "--") continue;
+    const bool option = word.size() > 1 && word.starts_with('-');
+    text = option ? "Unknown option " : command == "ioview" ? "Unknown command " : "Unexpected argument ";
+    text += Quoted(word);
+    break;
+  }
+  return OneLine(text) + "; see " + command + " --help";
+}
+
 int Run(int argc, char** argv) {
   CLI::App app(kAbout, "ioview");
   app.set_version_flag("--version", "ioview " IOVIEW_VERSION, "Print the version and exit");
@@ -35,22 +74,16 @@ int Run(int argc, char** argv) {
   app.require_subcommand(0, 1);
   AddDumpCommand(app);
 
-  // Last argument first. `--name=` alone is an empty value; the library would take the next argument for it.
-  std::vector<std::string> arguments;
-  for (int i = argc - 1; i > 0; --i) {
-    std::string argument = argv[i];
-    if (argument.size() > 3 && argument.starts_with("--") && argument.find('=') == argument.size() - 1) {
-      arguments.emplace_back();
-      argument.pop_back();
-    }
-    arguments.push_back(std::move(argument));
-  }
   try {
-    app.parse(std::move(arguments));
+    app.parse(ReversedArguments(argc, argv));
   } catch (const CLI::Success& answer) {
-    return app.exit(answer);
+    std::ostringstream text;
+    const int status = app.exit(answer, text, text);
+    WriteOutput(text.str());
+    FlushOutput();
+    return status;
   } catch (const CLI::ParseError& error) {
-    throw ProgramError(OneLine(FirstLine(error.what())));
+    throw ProgramError(Complaint(app, error));
   }
   if (app.get_subcommands().empty()) {
     throw ProgramError("A command is required, such as dump; see ioview --help");

@@ -14,6 +14,7 @@
 #include "ioview/program_error.h"
 #include "platform/base/files.h"
 #include "platform/base/paths.h"
+#include "platform/base/text.h"
 
 namespace ioview {
 
@@ -54,9 +55,14 @@ std::string ReadWholeFile(const std::string& native) {
 std::string DrivePathOf(const std::string& native) {
   std::error_code error;
   const std::filesystem::path absolute = std::filesystem::absolute(native, error);
-  const std::optional<std::string> path = error ? std::nullopt : platform::FromNativePath(absolute.native());
-  if (!path) Fail(native, "Can't be written as a drive path in this code page");
-  return *path;
+  if (error) Fail(native, error.message());
+  const std::optional<std::string> path = platform::FromNativePath(absolute.native());
+  if (path) return *path;
+  if (absolute.native().find('\\') != std::string::npos) {
+    Fail(native, "A path with a backslash in a name can't be opened");
+  }
+  Fail(native,
+       "Its path has a character that code page " + std::to_string(platform::AnsiCodePage()) + " lacks");
 }
 
 }  // namespace ioview

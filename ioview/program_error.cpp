@@ -7,6 +7,7 @@ namespace ioview {
 namespace {
 
 constexpr std::size_t kLongestWord = 60;  // in bytes
+constexpr std::size_t kLongestTail = 3;   // of a UTF-8 character, behind its first byte
 
 }  // namespace
 
@@ -30,8 +31,11 @@ std::string OneLine(std::string_view text) {
 }
 
 std::string Quoted(std::string_view word) {
-  const bool cut = word.size() > kLongestWord;
-  return '\'' + OneLine(word.substr(0, kLongestWord)) + (cut ? "...'" : "'");
+  if (word.size() <= kLongestWord) return '\'' + OneLine(word) + '\'';
+  // The words of a command line are UTF-8: the cut goes in front of a character that it would split.
+  std::size_t end = kLongestWord;
+  while (end > kLongestWord - kLongestTail && (static_cast<unsigned char>(word[end]) & 0xC0) == 0x80) --end;
+  return '\'' + OneLine(word.substr(0, end)) + "...'";
 }
 
 }  // namespace ioview

@@ -1,9 +1,7 @@
 #include "ioview/commands/dump.h"
 
-#include <cerrno>
 #include <cstdint>
 #include <cstdio>
-#include <cstring>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -18,6 +16,7 @@
 #include "ioview/native_file.h"
 #include "ioview/number_text.h"
 #include "ioview/program_error.h"
+#include "ioview/standard_output.h"
 #include "platform/base/text.h"
 
 namespace ioview {
@@ -86,10 +85,6 @@ std::uint32_t BaseAddress(std::string_view word) {
   return *base;
 }
 
-[[noreturn]] void FailOutput() {
-  throw ProgramError(std::string("Standard output can't be written: ") + std::strerror(errno));
-}
-
 void RunDump(const DumpArguments& arguments) {
   interim::DumpRequest request;
   request.selection = arguments.selection;
@@ -114,10 +109,8 @@ void RunDump(const DumpArguments& arguments) {
   request.path = DrivePathOf(arguments.file);
 
   const MessagePrinter messages(stderr);
-  interim::WriteViewDump(host.root, request, [](std::string_view text) {
-    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) FailOutput();
-  });
-  if (std::fflush(stdout) != 0) FailOutput();
+  interim::WriteViewDump(host.root, request, WriteOutput);
+  FlushOutput();
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ class PageRows {
   PageRows(Page page, pvw::CIODataFile& file, pvw::CIOData& data, pvw::IQDebugger* target);
 
   // Makes the rows of a view that opens, all closed. The page of selected registers reads the registers of
-  // the modules it shows from the file, and drops a module without any selected one.
+  // the modules it shows from the file; one that the file lacks leaves the page when it has none below it.
   void Fill();
   // Opens rows in the order in which they are shown.
   void Open(OpenRows which);

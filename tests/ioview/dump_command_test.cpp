@@ -61,19 +61,24 @@ std::vector<std::string> Words(const std::string& text) {
 
 TEST_F(DumpCommand, RefusesWrongArgumentsInOneLine) {
   dir_.Write("bad.mem", "# fine\n1000: 12\n1004: 123\n");
+  const std::string see = "; see ioview dump --help";
   const std::string no_hex = " is not a hexadecimal number of up to eight digits";
   const std::pair<std::string, std::string> cases[] = {
-      {"dumb", "The following argument was not expected: dumb"},
-      {"dump", "FILE is required"},
-      {"dump|x.io|--nope", "The following argument was not expected: --nope"},
-      {"dump|x.io|y.io", "The following argument was not expected: y.io"},
-      {"dump|x.io|--base", "--base: 1 required HEX missing"},
-      {"dump|x.io|--base|1|--base|2", "--base: At Most 1 required but received 2"},
+      {"dumb|x.io", "Unknown command 'dumb'; see ioview --help"},
+      {"--nope|dump|x.io", "Unknown option '--nope'; see ioview --help"},
+      {"dump", "FILE is required" + see},
+      {"dump|--nope", "Unknown option '--nope'" + see},  // rather than that FILE is missing
+      {"dump|x.io|--bas|1", "Unknown option '--bas'" + see},
+      {"dump|x.io|y.io|z.io", "Unexpected argument 'y.io'" + see},
+      {"dump|x.io|--base", "--base: 1 required HEX missing" + see},
+      {"dump|x.io|--base|1|--base|2", "--base: At Most 1 required but received 2" + see},
       {"dump|x.io|--base|12g", "--base: '12g'" + no_hex},
       {"dump|x.io|--base|100000000", "--base: '100000000'" + no_hex},
       {"dump|x.io|--base=", "--base: ''" + no_hex},
       {"dump|x.io|--endian|middle", "--endian: 'middle' is not one of big, little"},
       {"dump|x.io|--open|All", "--open: 'All' is not one of none, modules, all"},
+      {"dump|x.io|--endian|" + std::string(59, 'x') + "\u65E5",
+       "--endian: '" + std::string(59, 'x') + "...' is not one of big, little"},
       {"dump|x.io|--pane|x\ny", "--pane: 'x\\ny' is not one of all, selected"},
       {"dump|x.io|--codepage|437", "--codepage: '437' is not one of 65001, 1252, 932"},
       {"dump|x.io|--memory|none.mem", "none.mem: No such file or directory"},
@@ -92,7 +97,6 @@ TEST_F(DumpCommand, RefusesFilesThatCannotBeOpened) {
   dir_.Write("\u65E5.io", kDevice);
   dir_.Write("huge.io", "");
   std::filesystem::resize_file(dir_.Native("huge.io"), (std::uintmax_t{1} << 30) + 1);
-  const std::string no_path = "Can't be written as a drive path in this code page";
   const std::pair<std::string, std::string> cases[] = {
       {"none.io", "none.io: No such file or directory"},
       {"no\nne.io", "no\\nne.io: No such file or directory"},
@@ -103,8 +107,8 @@ TEST_F(DumpCommand, RefusesFilesThatCannotBeOpened) {
       {"/proc/version", "/proc/version: Not a regular file"},
       {"device.io/x", "device.io/x: Not a directory"},
       {"huge.io", "huge.io: Larger than 1 GiB"},
-      {"back\\slash.io", "back\\slash.io: " + no_path},
-      {"\u65E5.io|--codepage|1252", "\u65E5.io: " + no_path},
+      {"back\\slash.io", "back\\slash.io: A path with a backslash in a name can't be opened"},
+      {"\u65E5.io|--codepage|1252", "\u65E5.io: Its path has a character that code page 1252 lacks"},
   };
   for (const auto& [arguments, error] : cases) {
     ExpectRefusal(Dump(Words(arguments)), error, arguments);
@@ -120,8 +124,10 @@ TEST_F(DumpCommand, RefusesAFileWithoutReadPermission) {
 }
 
 TEST_F(DumpCommand, SaysThatItsOutputIsLost) {
-  ExpectRefusal(Dump({"device.io"}, {.output = "/dev/full"}),
-                "Standard output can't be written: No space left on device", "a full disk");
+  for (const std::string command : {"dump|device.io", "dump|--help", "--help", "--version"}) {
+    ExpectRefusal(RunIoview(Words(command), {.directory = dir_.Native(), .output = "/dev/full"}),
+                  "Standard output can't be written: No space left on device", command);
+  }
 }
 
 TEST_F(DumpCommand, ExplainsItself) {
@@ -134,8 +140,8 @@ TEST_F(DumpCommand, ExplainsItself) {
 }
 
 TEST_F(DumpCommand, OpensAFileOfAnyNameAsItStands) {
-  for (const std::string name :
-       {"-x", "[a,b]", "dump", "x.IO", "no ending", " dots. .", "$(CONFIGDIR)", "50%", "\u00E4\u65E5.io"}) {
+  for (const std::string name : {"-x", "--y=", "[a,b]", "dump", "x.IO", "no ending", " dots. .",
+                                 "$(CONFIGDIR)", "50%", "\u00E4\u65E5.io"}) {
     dir_.Write(name, kDevice);
 
     const Outcome outcome = Dump({"--open", "none", "--", name});
