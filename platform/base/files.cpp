@@ -4,8 +4,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <climits>
+#include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <thread>
 
@@ -75,6 +79,51 @@ bool IsFresh(std::int64_t time, std::int64_t now) {
   return age < kFreshNs && age > -kFreshNs;
 }
 
+// A new file that goes away again unless it takes the place of another.
+class NewFile {
+ public:
+  explicit NewFile(const std::string& directory) {
+    static std::atomic<unsigned> count = 0;
+    do {
+      native_ = directory + "/." + std::to_string(getpid()) + '-' + std::to_string(count++) + ".new";
+      descriptor_ = open(native_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    } while (descriptor_ < 0 && errno == EEXIST);
+  }
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+  ~NewFile() {
+    if (descriptor_ < 0) return;
+    close(descriptor_);
+    if (!placed_) unlink(native_.c_str());
+  }
+
+  bool Write(std::string_view bytes) const {
+    while (descriptor_ >= 0 && !bytes.empty()) {
+      const ssize_t count = write(descriptor_, bytes.data(), bytes.size());
+      if (count < 0 && errno == EINTR) continue;
+      if (count <= 0) return false;
+      bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return descriptor_ >= 0 && fsync(descriptor_) == 0;
+  }
+  bool SetMode(mode_t mode) const { return fchmod(descriptor_, mode) == 0; }
+  bool Place(const std::string& native) {
+    placed_ = std::rename(native_.c_str(), native.c_str()) == 0;
+    return placed_;
+  }
+
+ private:
+  int descriptor_ = -1;
+  bool placed_ = false;
+  std::string native_;
+};
+
+// The file itself behind links; `native` when there is none.
+std::string BehindLinks(const std::string& native) {
+  char resolved[PATH_MAX];
+  return realpath(native.c_str(), resolved) != nullptr ? resolved : native;
+}
+
 }  // namespace
 
 std::optional<FileAttributes> GetFileAttributes(std::string_view path) {
@@ -127,6 +176,25 @@ std::optional<FileContents> ReadNativeFile(const std::string& native) {
     return contents;
   }
   return std::nullopt;
+}
+
+bool WriteWholeFile(std::string_view path, std::string_view bytes) {
+  const std::optional<std::string> named = ToNativePath(path);
+  if (!named) return false;
+  const std::string native = BehindLinks(*named);
+  struct stat before {};
+  const bool exists = stat(native.c_str(), &before) == 0;
+  if (exists && (!S_ISREG(before.st_mode) || (before.st_mode & 0222) == 0 || access(native.c_str(), W_OK) != 0)) {
+    return false;
+  }
+  const std::size_t slash = native.rfind('/');
+  NewFile file(slash == std::string::npos ? "." : native.substr(0, slash));
+  return file.Write(bytes) && (!exists || file.SetMode(before.st_mode & 07777)) && file.Place(native);
+}
+
+bool DeleteFile(std::string_view path) {
+  const std::optional<std::string> native = ToNativePath(path);
+  return native && unlink(native->c_str()) == 0;
 }
 
 }  // namespace platform

@@ -44,4 +44,11 @@ struct FileContents {
 };
 std::optional<FileContents> ReadNativeFile(const std::string& native);
 
+// Makes `bytes` the whole of the file, which is created if need be, keeps its permissions and comes to the
+// disk in one step: when it can't be written, is read-only or isn't a regular file, the result is false and
+// what was there before is there still.
+bool WriteWholeFile(std::string_view path, std::string_view bytes);
+// False when there is no such file, or it can't be deleted.
+bool DeleteFile(std::string_view path);
+
 }  // namespace platform

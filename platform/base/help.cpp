@@ -6,10 +6,11 @@
 namespace platform {
 
 bool WinHelp(HWND window, const std::string& file, std::uint32_t command, std::uint32_t data) {
-  // Stays loaded for the life of the process: what it shows may be on the screen.
   const HMODULE engine = LoadLibrary(System().help_engine);
   const auto show = GetProc<bool(HWND, const char*, std::uint32_t, std::uint32_t)>(engine, "WinHelp");
-  return show != nullptr && show(window, file.c_str(), command, data);
+  const bool shown = show != nullptr && show(window, file.c_str(), command, data);
+  FreeLibrary(engine);
+  return shown;
 }
 
 }  // namespace platform

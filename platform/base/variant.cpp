@@ -16,34 +16,9 @@ struct SAFEARRAY {
   SAFEARRAY* next = nullptr;  // in the list of arrays that wait for their destruction
 };
 
-void VariantClear(VARIANT* variant) {
-  if (variant == nullptr) return;
-  const VARIANT old = std::exchange(*variant, VARIANT{});
-  if (old.vt == VT_BSTR) {
-    SysFreeString(old.bstrVal);
-  } else if ((old.vt & VT_ARRAY) != 0) {
-    SafeArrayDestroy(old.parray);
-  }
-}
+namespace {
 
-SAFEARRAY* SafeArrayCreateVector(VARTYPE type, std::size_t count) {
-  if ((type != VT_VARIANT && type != VT_BSTR) || count > std::numeric_limits<std::uint32_t>::max())
-    return nullptr;
-  std::unique_ptr<SAFEARRAY> array(new (std::nothrow) SAFEARRAY);
-  if (array == nullptr) return nullptr;
-  array->type = type;
-  array->count = count;
-  if (type == VT_VARIANT) {
-    array->variants.reset(new (std::nothrow) VARIANT[count]);
-    if (array->variants == nullptr) return nullptr;
-  } else {
-    array->strings.reset(new (std::nothrow) BSTR[count]());
-    if (array->strings == nullptr) return nullptr;
-  }
-  return array.release();
-}
-
-void SafeArrayDestroy(SAFEARRAY* array) {
+void DestroyArray(SAFEARRAY* array) {
   // Arrays in arrays wait in a list: no depth of nesting takes up the stack.
   while (array != nullptr) {
     const std::unique_ptr<SAFEARRAY> current(array);
@@ -64,8 +39,33 @@ void SafeArrayDestroy(SAFEARRAY* array) {
   }
 }
 
-VARTYPE SafeArrayGetVartype(const SAFEARRAY* array) {
-  return array != nullptr ? array->type : VT_EMPTY;
+}  // namespace
+
+void VariantClear(VARIANT* variant) {
+  if (variant == nullptr) return;
+  const VARIANT old = std::exchange(*variant, VARIANT{});
+  if (old.vt == VT_BSTR) {
+    SysFreeString(old.bstrVal);
+  } else if ((old.vt & VT_ARRAY) != 0) {
+    DestroyArray(old.parray);
+  }
+}
+
+SAFEARRAY* SafeArrayCreateVector(VARTYPE type, std::size_t count) {
+  if ((type != VT_VARIANT && type != VT_BSTR) || count > std::numeric_limits<std::uint32_t>::max())
+    return nullptr;
+  std::unique_ptr<SAFEARRAY> array(new (std::nothrow) SAFEARRAY);
+  if (array == nullptr) return nullptr;
+  array->type = type;
+  array->count = count;
+  if (type == VT_VARIANT) {
+    array->variants.reset(new (std::nothrow) VARIANT[count]);
+    if (array->variants == nullptr) return nullptr;
+  } else {
+    array->strings.reset(new (std::nothrow) BSTR[count]());
+    if (array->strings == nullptr) return nullptr;
+  }
+  return array.release();
 }
 
 std::size_t SafeArrayGetCount(const SAFEARRAY* array) {

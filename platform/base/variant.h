@@ -37,9 +37,6 @@ void VariantClear(VARIANT* variant);
 // A new array of `count` empty elements of VT_VARIANT or VT_BSTR, lower bound 0; null for another type,
 // 2 to the 32nd or more elements, or when there is no memory.
 [[nodiscard]] SAFEARRAY* SafeArrayCreateVector(VARTYPE type, std::size_t count);
-// Frees the array and every element.
-void SafeArrayDestroy(SAFEARRAY* array);
-VARTYPE SafeArrayGetVartype(const SAFEARRAY* array);
 // Number of elements; 0 for null.
 std::size_t SafeArrayGetCount(const SAFEARRAY* array);
 // The element itself, to read or to fill; null when the index is past the end or the type is another.

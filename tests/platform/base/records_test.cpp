@@ -65,7 +65,6 @@ TEST(VariantTest, AnArrayOwnsItsElements) {
   variant->parray = SafeArrayCreateVector(VT_VARIANT, 2);
   SAFEARRAY* array = list.Get().parray;
   EXPECT_EQ(SafeArrayGetCount(array), 2u);
-  EXPECT_EQ(SafeArrayGetVartype(array), VT_VARIANT);
   EXPECT_EQ(SafeArrayVariantAt(array, 1)->vt, VT_EMPTY);
   *SafeArrayVariantAt(array, 0) = VARIANT{VT_BSTR, {NewBstr("freed with the array")}};
   EXPECT_EQ(SafeArrayVariantAt(array, 2), nullptr);
@@ -76,17 +75,17 @@ TEST(VariantTest, AnArrayOwnsItsElements) {
 }
 
 TEST(VariantTest, AnArrayOfStringsStartsEmpty) {
+  ScopedVariant list;
   SAFEARRAY* array = SafeArrayCreateVector(VT_BSTR, 2);
+  *list.Receive() = VARIANT{VT_ARRAY | VT_BSTR, {.parray = array}};
   EXPECT_EQ(*SafeArrayBstrAt(array, 1), nullptr);
   *SafeArrayBstrAt(array, 1) = NewBstr("freed with the array");
   EXPECT_EQ(SafeArrayVariantAt(array, 0), nullptr);
-  SafeArrayDestroy(array);
 
   EXPECT_EQ(SafeArrayCreateVector(VT_UI1, 1), nullptr);
   EXPECT_EQ(SafeArrayCreateVector(VT_BSTR, ~std::size_t{0}), nullptr);
   EXPECT_EQ(SafeArrayGetCount(nullptr), 0u);
   EXPECT_EQ(SafeArrayVariantAt(nullptr, 0), nullptr);
-  SafeArrayDestroy(nullptr);
 }
 
 TEST(VariantTest, NestingOfAnyDepthIsFreed) {

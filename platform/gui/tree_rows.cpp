@@ -1,0 +1,65 @@
+#include "platform/gui/tree_rows.h"
+
+#include <utility>
+
+namespace platform {
+
+void TreeRows::Clear() {
+  m_order.Clear();
+  m_rows.assign(1, {});
+  m_rows[kRoot].handle = kTreeRoot;
+}
+
+TreeRows::Row TreeRows::Append(Row parent) {
+  constexpr std::uint64_t kMostRows = std::uint64_t{1} << kNumberBits;
+  constexpr std::uint64_t kLastHandle = kTreeRoot >> kNumberBits;
+  if (m_rows.size() >= kMostRows || m_count + 1 >= kLastHandle) return kNone;
+  const Row row = m_order.Append(parent);
+  if (row >= m_rows.size()) m_rows.resize(row + 1);
+  TreeRow& added = m_rows[row];
+  added.handle = ++m_count << kNumberBits | row;
+  added.parent = parent;
+  added.previous = m_rows[parent].last_child;
+  (added.previous != kRoot ? m_rows[added.previous].next : m_rows[parent].first_child) = row;
+  m_rows[parent].last_child = row;
+  return row;
+}
+
+void TreeRows::Erase(Row row) {
+  const TreeRow& gone = m_rows[row];
+  TreeRow& parent = m_rows[gone.parent];
+  (gone.previous != kRoot ? m_rows[gone.previous].next : parent.first_child) = gone.next;
+  (gone.next != kRoot ? m_rows[gone.next].previous : parent.last_child) = gone.previous;
+  if (parent.first_child == kRoot && gone.parent != kRoot) m_order.Close(gone.parent);
+  std::vector<Row> erased;
+  m_order.Erase(row, erased);
+  for (const Row each : erased) m_rows[each] = TreeRow();
+}
+
+TreeRows::Row TreeRows::Find(HTREEITEM handle) const {
+  if (handle == kTreeRoot) return kRoot;
+  const auto row = static_cast<Row>(handle & ((std::uint64_t{1} << kNumberBits) - 1));
+  return handle != 0 && row < m_rows.size() && m_rows[row].handle == handle ? row : kNone;
+}
+
+const std::string& TreeRows::Text(Row row, int column) const {
+  static const std::string empty;
+  const std::vector<std::string>& texts = m_rows[row].texts;
+  const auto index = static_cast<std::size_t>(column);
+  return column >= 0 && index < texts.size() ? texts[index] : empty;
+}
+
+void TreeRows::SetText(Row row, int column, std::string_view text) {
+  std::vector<std::string>& texts = m_rows[row].texts;
+  const auto index = static_cast<std::size_t>(column);
+  std::string copy(text);  // it may be another of these texts
+  if (index >= texts.size()) {
+    if (text.empty()) return;
+    texts.reserve(index + 1);
+    texts.resize(index + 1);
+  }
+  texts[index] = std::move(copy);
+  while (!texts.empty() && texts.back().empty()) texts.pop_back();
+}
+
+}  // namespace platform

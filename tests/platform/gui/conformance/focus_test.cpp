@@ -1,0 +1,158 @@
+// Who has the keyboard, and who gets it back.
+
+#include "tests/platform/gui/conformance/stage.h"
+
+namespace platform::conformance {
+namespace {
+
+class Focuses : public Scenario {
+ protected:
+  Focuses() {
+    Add(first, 1);
+    Add(second, 2);
+  }
+  ~Focuses() override {
+    first.DestroyWindow();
+    second.DestroyWindow();
+  }
+  Traced<CEdit> first{"first"};
+  Traced<CEdit> second{"second"};
+};
+
+TEST_F(Focuses, MovingItTellsTheOldWindowAndThenTheNew) {
+  SetFocus(first.GetHandle());
+  SetFocus(second.GetHandle());
+  SetFocus(second.GetHandle());
+  SetFocus(0);
+  stage->Settle();
+  EXPECT_EQ(Story(), "first SETFOCUS\nfirst KILLFOCUS\nsecond SETFOCUS\nsecond KILLFOCUS\n");
+  EXPECT_EQ(GetFocus(), 0u);
+}
+
+TEST_F(Focuses, AClickMovesItBeforeTheReleaseButNotIntoADisabledControl) {
+  stage->Click(first);
+  EXPECT_EQ(Story(), "first DOWN\nfirst SETFOCUS\nfirst UP\n");
+  second.EnableWindow(false);
+  stage->Click(second);
+  SetFocus(second.GetHandle());
+  EXPECT_EQ(Story(), "");
+  EXPECT_EQ(GetFocus(), first.GetHandle());
+}
+
+TEST_F(Focuses, WhoeverItIsTakenFromBeforeItHeardIsOnlyToldToLetGo) {
+  Focus(first);
+  first.On(WM_KILLFOCUS, [&] {
+    first.handlers.clear();
+    SetFocus(first.GetHandle());
+    return 0;
+  });
+  SetFocus(second.GetHandle());
+  EXPECT_EQ(Story(), "first KILLFOCUS\nsecond KILLFOCUS\nfirst SETFOCUS\n");
+  EXPECT_EQ(GetFocus(), first.GetHandle());
+}
+
+TEST_F(Focuses, AWindowThatGoesOrHidesPassesItToTheNearestParentThatCanHaveIt) {
+  Traced<CWnd> pane("pane");
+  Traced<CEdit> edit("edit");
+  Add(pane, 3);
+  edit.Create({.parent = pane.GetHandle(), .id = 9});
+  Focus(edit);
+  edit.DestroyWindow();
+  EXPECT_EQ(Story(), "edit DESTROY\nedit KILLFOCUS\npane SETFOCUS\n");
+
+  pane.ShowWindow(false);
+  stage->Settle();
+  EXPECT_EQ(Story(), "pane KILLFOCUS\nmain SETFOCUS\n");
+  pane.DestroyWindow();
+}
+
+TEST_F(Focuses, WhoLeavesTheProgramFindsItWhereItWas) {
+  Focus(first);
+  stage->Leave();
+  EXPECT_EQ(Story(), "first KILLFOCUS\n");
+  EXPECT_EQ(GetFocus(), 0u);
+  stage->ComeBack();
+  EXPECT_EQ(Story(), "first SETFOCUS\n");
+}
+
+TEST_F(Focuses, WhileTheUserIsAwayAMoveIsRemembered) {
+  Focus(first);
+  // An edit that closes as it is left gives the focus to its owner, which mustn't call the user back.
+  first.On(WM_KILLFOCUS, [&] {
+    SetFocus(second.GetHandle());
+    return 0;
+  });
+  stage->Leave();
+  EXPECT_EQ(Story(), "first KILLFOCUS\n");
+  stage->ComeBack();
+  EXPECT_EQ(Story(), "second SETFOCUS\n");
+}
+
+TEST_F(Focuses, ItComesBackToTheFirstThatIsAliveOfTheWindowAndItsParents) {
+  Traced<CWnd> pane("pane");
+  Traced<CWnd> grid("grid");
+  Traced<CEdit> edit("edit");
+  Add(pane, 3);
+  grid.Create({.parent = pane.GetHandle(), .id = 4});
+  edit.Create({.parent = grid.GetHandle(), .id = 5});
+  Focus(edit);
+  stage->InNextBox([&] {
+    edit.DestroyWindow();
+    grid.EnableWindow(false);
+  });
+  MessageBox("Invalid Hex Value");
+  stage->Settle();
+  EXPECT_EQ(Story(), "message: Invalid Hex Value\nedit KILLFOCUS\nedit DESTROY\npane SETFOCUS\n");
+  pane.DestroyWindow();
+}
+
+TEST_F(Focuses, KeysGoToWhoeverHasItAndNowhereWithoutOne) {
+  Focus(first);
+  stage->Type("a");
+  EXPECT_EQ(Story(), "first KEYDOWN A\nfirst CHAR a\nmain EN_UPDATE 1\nmain EN_CHANGE 1\nfirst KEYUP A\n");
+  SetFocus(0);
+  Story();
+  stage->Type("b");
+  EXPECT_EQ(Story(), "");
+}
+
+TEST_F(Focuses, AReleaseOrCharacterBelongsToWhoHadTheKey) {
+  Focus(first);
+  first.On(WM_KEYDOWN, [&] {
+    SetFocus(second.GetHandle());
+    return 1;
+  });
+  stage->Type("a");
+  EXPECT_EQ(Story(), "first KEYDOWN A\nfirst KILLFOCUS\nsecond SETFOCUS\n");
+  EXPECT_EQ(second.GetText(), "");
+  stage->Type("b");
+  EXPECT_EQ(second.GetText(), "b");
+}
+
+// Takes Escape before the window that has the focus sees it.
+struct CTaker : Traced<CWnd> {
+  using Traced::Traced;
+  bool PreTranslateMessage(const MSG& msg) override {
+    if (msg.message != WM_KEYDOWN || !IsKeyDown(VK_ESCAPE)) return false;
+    Note(name + " takes it" + (IsKeyDown(VK_SHIFT) ? " shifted" : ""));
+    return true;
+  }
+};
+
+TEST_F(Focuses, ParentsMayTakeAKeyAheadOfTheWindowNearestFirst) {
+  CTaker outer("outer");
+  CTaker inner("inner");
+  Traced<CEdit> edit("edit");
+  Add(outer, 3);
+  inner.Create({.parent = outer.GetHandle()});
+  edit.Create({.parent = inner.GetHandle()});
+  Focus(edit);
+  stage->Key(VK_ESCAPE);
+  stage->Key(VK_ESCAPE, MK_SHIFT);
+  stage->Key(VK_HOME);
+  EXPECT_EQ(Story(), "inner takes it\ninner takes it shifted\nedit KEYDOWN Home\nedit KEYUP Home\n");
+  outer.DestroyWindow();
+}
+
+}  // namespace
+}  // namespace platform::conformance

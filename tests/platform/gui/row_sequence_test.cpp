@@ -1,0 +1,135 @@
+#include "platform/gui/row_sequence.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace platform {
+namespace {
+
+using Row = RowSequence::Row;
+
+// The same tree by plain lists.
+struct Model {
+  struct Node {
+    Row parent = 0;
+    bool open = false;
+    std::vector<Row> children;
+  };
+  std::map<Row, Node> nodes{{RowSequence::kRoot, {}}};
+
+  void Show(Row row, int depth, std::vector<std::pair<Row, int>>& rows) const {
+    for (const Row child : nodes.at(row).children) {
+      rows.emplace_back(child, depth);
+      if (nodes.at(child).open) Show(child, depth + 1, rows);
+    }
+  }
+  void Below(Row row, std::vector<Row>& rows) const {
+    rows.push_back(row);
+    for (const Row child : nodes.at(row).children) Below(child, rows);
+  }
+};
+
+void ExpectEqual(const RowSequence& sequence, const Model& model) {
+  std::vector<std::pair<Row, int>> rows;
+  model.Show(RowSequence::kRoot, 0, rows);
+  ASSERT_EQ(sequence.Size(), rows.size());
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const auto [row, depth] = rows[i];
+    ASSERT_EQ(sequence.At(i), row) << "at " << i;
+    ASSERT_EQ(sequence.IndexOf(row), i);
+    ASSERT_EQ(sequence.Depth(row), depth);
+    ASSERT_EQ(sequence.Next(row), i + 1 < rows.size() ? rows[i + 1].first : RowSequence::kRoot);
+    Row ancestor = row;
+    for (int level = depth; level >= 0; --level) {
+      ASSERT_EQ(sequence.AncestorAt(row, level), ancestor);
+      ancestor = model.nodes.at(ancestor).parent;
+    }
+  }
+  for (const auto& [row, node] : model.nodes) {
+    if (row == RowSequence::kRoot) continue;
+    ASSERT_EQ(sequence.IsOpen(row), node.open);
+    const bool shows =
+        std::any_of(rows.begin(), rows.end(), [&](const auto& shown) { return shown.first == row; });
+    ASSERT_EQ(sequence.IndexOf(row) == RowSequence::kHidden, !shows);
+  }
+}
+
+TEST(RowSequence, AgreesWithPlainListsAfterEveryOperation) {
+  for (unsigned seed = 0; seed < 12; ++seed) {
+    std::mt19937 random(seed);
+    RowSequence sequence;
+    Model model;
+    for (int step = 0; step < 400; ++step) {
+      const auto pick = [&](bool root) {
+        const std::size_t skip = root ? 0 : 1;
+        return std::next(model.nodes.begin(),
+                         static_cast<long>(skip + random() % (model.nodes.size() - skip)))
+            ->first;
+      };
+      const unsigned kind = model.nodes.size() < 3 ? 0 : random() % 10;
+      if (kind < 5) {
+        const Row parent = pick(true);
+        const Row row = sequence.Append(parent);
+        ASSERT_EQ(model.nodes.count(row), 0U) << "a number in use";
+        model.nodes[row].parent = parent;
+        model.nodes[parent].children.push_back(row);
+      } else if (kind < 7) {
+        const Row row = pick(false);
+        sequence.Open(row);
+        model.nodes[row].open = true;
+      } else if (kind < 9) {
+        const Row row = pick(false);
+        sequence.Close(row);
+        model.nodes[row].open = false;
+      } else if (random() % 4 == 0) {
+        const Row row = pick(false);
+        std::vector<Row> erased;
+        std::vector<Row> expected;
+        sequence.Erase(row, erased);
+        model.Below(row, expected);
+        ASSERT_EQ(erased.front(), row);
+        std::erase(model.nodes[model.nodes[row].parent].children, row);
+        for (const Row gone : expected) model.nodes.erase(gone);
+        std::sort(erased.begin(), erased.end());
+        std::sort(expected.begin(), expected.end());
+        ASSERT_EQ(erased, expected);
+      }
+      ExpectEqual(sequence, model);
+      if (HasFatalFailure()) FAIL() << "seed " << seed << ", step " << step;
+    }
+  }
+}
+
+TEST(RowSequence, AMillionLevelsOpenCloseAndGo) {
+  constexpr std::size_t kLevels = 1'000'000;
+  RowSequence sequence;
+  const Row top = sequence.Append(RowSequence::kRoot);
+  Row row = top;
+  for (std::size_t i = 1; i < kLevels; ++i) {
+    sequence.Open(row);
+    row = sequence.Append(row);
+  }
+  EXPECT_EQ(sequence.Size(), kLevels);
+  EXPECT_EQ(sequence.IndexOf(row), kLevels - 1);
+  EXPECT_EQ(sequence.AncestorAt(row, 0), top);
+  EXPECT_EQ(sequence.AncestorAt(row, 500'000), sequence.At(500'000));
+
+  sequence.Close(top);
+  EXPECT_EQ(sequence.Size(), 1U);
+  EXPECT_EQ(sequence.IndexOf(row), RowSequence::kHidden);
+  sequence.Open(top);
+  EXPECT_EQ(sequence.IndexOf(row), kLevels - 1);
+
+  std::vector<Row> erased;
+  sequence.Erase(top, erased);
+  EXPECT_EQ(erased.size(), kLevels);
+  EXPECT_EQ(sequence.Size(), 0U);
+}
+
+}  // namespace
+}  // namespace platform

@@ -1,0 +1,191 @@
+#include "platform/gui/tree_ctrl.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "tests/platform/gui/tree_stage.h"
+
+namespace platform {
+namespace {
+
+class TreeCtrl : public TreeStage {};
+
+TEST_F(TreeCtrl, OpeningAndClosingAsksTheOwnerOnceAndKeepsWhatIsBelow) {
+  Fill("A\n  B\n    C\nD\n");
+  EXPECT_TRUE(tree.Expand(Item("B"), TVE_EXPAND));  // under a closed row
+  EXPECT_EQ(Rows(), "+A\n.D\n");
+  EXPECT_EQ(tree.GetRowOfItem(Item("C")), -1);
+
+  EXPECT_TRUE(tree.Expand(Item("A"), TVE_EXPAND));
+  EXPECT_EQ(Rows(), "-A\n  -B\n    .C\n.D\n");
+  EXPECT_EQ(tree.GetRowOfItem(Item("D")), 3);
+  EXPECT_FALSE(tree.Expand(Item("A"), TVE_EXPAND)) << "it is open";
+  EXPECT_FALSE(tree.Expand(Item("D"), TVE_EXPAND)) << "it has no children";
+  EXPECT_FALSE(tree.Expand(Item("D"), TVE_COLLAPSE));
+  EXPECT_EQ(Story(), "TVN_ITEMEXPANDING B expand, TVN_ITEMEXPANDING A expand");
+
+  Answer(TVN_ITEMEXPANDING, 1);
+  EXPECT_FALSE(tree.Expand(Item("A"), TVE_COLLAPSE)) << "it was refused";
+  EXPECT_EQ(Rows(), "-A\n  -B\n    .C\n.D\n");
+}
+
+TEST_F(TreeCtrl, TheOwnerMayChangeTheRowsWhileOneOpens) {
+  struct Case {
+    const char *name, *rows;
+    bool opens;
+    std::function<void()> change;
+  };
+  const auto drop = [&](const char* name) { tree.DeleteItem(Item(name)); };
+  const auto fill = [&] { tree.InsertItem("B", 2, Item("A")); };
+  const auto open = [&] { answers.clear(), tree.Expand(Item("A"), TVE_EXPAND); };
+  const Case cases[] = {
+      {"the placeholder gives way to a row", "-A\n  .B\n.Z\n", true, [&] { drop("null"), fill(); }},
+      {"the placeholder goes and nothing comes", ".A\n.Z\n", false, [&] { drop("null"); }},
+      {"the row itself goes", ".Z\n", false, [&] { drop("A"); }},
+      {"all rows go", "", false, [&] { tree.DeleteAllItems(); }},
+      {"the owner opens it itself", "-A\n  .null\n.Z\n", false, open},
+      {"the window goes", "+A\n.Z\n", false, [&] { owner.DestroyWindow(); }},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    tree.DeleteAllItems();
+    Fill("A\n  null\nZ\n");
+    Answer(TVN_ITEMEXPANDING, 0, c.change);
+    EXPECT_EQ(tree.Expand(Item("A"), TVE_EXPAND), c.opens);
+    EXPECT_EQ(Rows(), c.rows);
+  }
+}
+
+TEST_F(TreeCtrl, ARowThatLosesItsLastChildIsClosed) {
+  Fill("A\n  B\nC\n");
+  tree.Expand(Item("A"), TVE_EXPAND);
+  tree.DeleteItem(Item("B"));
+  tree.InsertItem("D", 2, Item("A"));
+  EXPECT_EQ(Rows(), "+A\n.C\n");
+}
+
+TEST_F(TreeCtrl, ClosingTakesASelectionBelowToTheRow) {
+  Fill("A\n  B\n    C\nD\n  E\n");
+  for (const char* name : {"A", "B", "D"}) tree.Expand(Item(name), TVE_EXPAND);
+  tree.SelectItem(Item("C"));
+  Story();
+  tree.Expand(Item("D"), TVE_COLLAPSE);
+  EXPECT_EQ(tree.GetSelectedItem(), Item("C"));
+  tree.Expand(Item("A"), TVE_COLLAPSE);
+  EXPECT_EQ(tree.GetSelectedItem(), Item("A"));
+  EXPECT_EQ(Story(), "TVN_ITEMEXPANDING D collapse, TVN_ITEMEXPANDING A collapse, TVN_SELCHANGED A");
+}
+
+TEST_F(TreeCtrl, AStaleRowFindsNothing) {
+  Fill("A|text\n  B\nC\n");
+  tree.SelectItem(Item("B"));
+  tree.DeleteItem(Item("A"));
+  EXPECT_EQ(tree.GetSelectedItem(), 0U);
+  EXPECT_GT(tree.InsertItem("D", 2), Item("C")) << "handles count up";
+  Story();
+  for (const HTREEITEM gone : {Item("A"), Item("B"), HTREEITEM{0}, HTREEITEM{12345}, kTreeRoot}) {
+    EXPECT_FALSE(tree.HasItem(gone));
+    EXPECT_EQ(tree.GetItemText(gone, 1), "");
+    EXPECT_EQ(tree.GetRowOfItem(gone), -1);
+    EXPECT_EQ(tree.GetParentItem(gone) + tree.GetChildItem(gone) + tree.GetNextSiblingItem(gone), 0U);
+    EXPECT_TRUE(tree.GetCellRect(gone, 0).IsEmpty());
+    EXPECT_FALSE(tree.Expand(gone, TVE_EXPAND));
+    EXPECT_FALSE(tree.EditCell(gone, 1));
+    tree.SetItemText(gone, 0, "x");
+    tree.SetItemCheck(gone, true);
+    tree.DeleteItem(gone);
+    tree.SelectItem(gone);
+  }
+  EXPECT_EQ(tree.InsertItem("x", 2, Item("A")), 0U);
+  EXPECT_EQ(Rows(), ".C\n.D\n");
+  EXPECT_EQ(Story(), "");
+}
+
+TEST_F(TreeCtrl, CellsAndColumnsHoldOddValues) {
+  MakeGrid();
+  Fill("A\n");
+  tree.SetItemText(Item("A"), 3, tree.GetItemText(Item("A"), 0));
+  EXPECT_EQ(tree.GetItemText(Item("A"), 3), "A") << "its own text, moved meanwhile";
+  tree.SetItemText(Item("A"), -1, "x");
+  tree.SetItemText(Item("A"), 1'000'000, "x");
+  EXPECT_EQ(tree.GetItemText(Item("A"), -1), "");
+  for (int width : {-2147483647 - 1, -1, 2147483647}) {
+    tree.SetColumnWidth(1, width);
+    EXPECT_EQ(tree.GetColumnWidth(1), width < 0 ? 0 : 32767);
+  }
+  for (int i = 0; i < 30; ++i) tree.InsertColumn(99, "more", TextAlign::Left, 10);
+  EXPECT_EQ(tree.GetColumnCount(), SECTreeCtrl::kMostColumns);
+}
+
+TEST_F(TreeCtrl, ScrollPositionsStayInRange) {
+  MakeGrid();  // 11 rows in view, columns of 500 in 520 pixels
+  for (int i = 0; i < 20; ++i) tree.InsertItem("row", 2);
+  const auto rows_after = [&](UINT message, int value) {
+    tree.Send(message, static_cast<WPARAM>(value));
+    return tree.GetScrollPos(true);
+  };
+  EXPECT_EQ(rows_after(WM_VSCROLL, 2147483647), 9);
+  EXPECT_EQ(rows_after(WM_MOUSEWHEEL, 3), 6);
+  EXPECT_EQ(rows_after(WM_MOUSEWHEEL, -100), 9);
+  EXPECT_EQ(rows_after(WM_VSCROLL, -5), 0);
+  tree.EnsureVisible(tree.GetItemAtRow(15));
+  EXPECT_EQ(tree.GetScrollPos(true), 5);
+  tree.EnsureVisible(tree.GetItemAtRow(7));
+  EXPECT_EQ(tree.GetScrollPos(true), 5);
+  tree.SelectItem(tree.GetItemAtRow(2));
+  EXPECT_EQ(tree.GetScrollPos(true), 2);
+
+  tree.SetColumnWidth(1, 400);
+  tree.Send(WM_HSCROLL, 1000);
+  EXPECT_EQ(tree.GetScrollPos(false), 280);
+  tree.MoveWindow({0, 0, 700, 20 + 17 * 19});
+  EXPECT_EQ(tree.GetScrollPos(false), 100);
+  EXPECT_EQ(tree.GetScrollPos(true), 1);
+  tree.DeleteAllItems();
+  EXPECT_EQ(tree.GetScrollPos(true), 0);
+}
+
+// Opening, closing, scrolling and painting cost the same with many rows as with few.
+TEST_F(TreeCtrl, AMillionRowsCostNoMoreThanAThousand) {
+  MakeGrid();
+  const auto cost = [&](int rows) {
+    tree.DeleteAllItems();
+    const HTREEITEM first = tree.InsertItem("first", 0);
+    for (int i = 0; i < rows; ++i) tree.InsertItem("row", 2, first);
+    tree.InsertItem("last", 2);
+    const auto start = std::chrono::steady_clock::now();
+    for (int round = 0; round < 20; ++round) {
+      tree.Expand(first, TVE_EXPAND);
+      for (int page = 0; page < 10; ++page) {
+        tree.SetScrollPos(true, rows / 10 * page);
+        EXPECT_FALSE(Painted(0, 206).empty());
+      }
+      tree.Expand(first, TVE_COLLAPSE);
+    }
+    const auto time = std::chrono::steady_clock::now() - start;
+    EXPECT_EQ(Rows(), "+first\n.last\n");
+    return time;
+  };
+  const auto few = cost(1'000);
+  EXPECT_LT(cost(1'000'000), 10 * few);
+}
+
+TEST_F(TreeCtrl, RowsAsDeepAsTheyAreManyArePaintedAndDeleted) {
+  MakeGrid();
+  HTREEITEM item = kTreeRoot;
+  for (int i = 0; i < 200'000; ++i) {
+    const HTREEITEM child = tree.InsertItem("row", 0, item);
+    tree.Expand(item, TVE_EXPAND);
+    item = child;
+  }
+  tree.SelectItem(item);
+  const std::string painted = Painted(0, 206);
+  EXPECT_EQ(painted.find("text"), std::string::npos) << "the names lie far to the right";
+  EXPECT_LT(painted.size(), 5'000U);
+  tree.DeleteItem(tree.GetRootItem());
+  EXPECT_EQ(tree.GetRowCount(), 0U);
+}
+
+}  // namespace
+}  // namespace platform
