@@ -44,11 +44,10 @@ std::string ListText(const VARIANT* list) {
   if (list == nullptr) return "null";
   if (list->vt == platform::VT_EMPTY) return "-";
   if (list->vt != (platform::VT_ARRAY | platform::VT_UINT)) return "?";
-  if (platform::SafeArrayGetVartype(list->parray) != platform::VT_VARIANT) return "?";
   std::string text = "[";
   for (std::size_t i = 0; i < platform::SafeArrayGetCount(list->parray); ++i) {
     const VARIANT* element = platform::SafeArrayVariantAt(list->parray, i);
-    if (element->vt != platform::VT_UINT) return "?";
+    if (element == nullptr || element->vt != platform::VT_UINT) return "?";
     text += (i == 0 ? "" : " ") + std::to_string(element->uintVal);
   }
   return text + "]";

@@ -1,0 +1,251 @@
+#include "component/services/ui_registrar.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "component/services/module_state.h"
+#include "host/ids.h"
+#include "tests/component/services/menu_world.h"
+#include "tests/support/fake_ui_services.h"
+
+namespace pvw {
+namespace {
+
+using platform::E_FAIL;
+using platform::HWND;
+using platform::S_OK;
+using platform::Status;
+using test::FakeHost;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::uint32_t kOwner = 3;
+constexpr HWND kPane = 0x100000001;
+constexpr HWND kParent = 0x200000002;
+
+class UiRegistrarTest : public testing::Test {
+ protected:
+  UiRegistrarTest() {
+    host.Ui().NameWindow(kPane, "pane");
+    host.Ui().NameWindow(kParent, "parent");
+    EXPECT_THAT(host.Transcript(), ElementsAre("GetService IQPageHost", "GetService IQUiExtra",
+                                               "GetService IQToolbarManager", "GetService IQUiManager"));
+    host.ClearTranscript();
+  }
+
+  const platform::ResourceRegistration resources{test::kMenuWorld, platform::ResourceRole::kLibrary};
+  const platform::HMODULE module = ComponentModule();
+  FakeHost host;
+  CUiRegistrar registrar{&host};
+
+  // One of each kind, by the name of the host's operation.
+  struct Registration {
+    const char* operation;
+    std::function<Status(std::uint32_t owner)> add;
+  };
+  const std::vector<Registration> kEach = {
+      {"AddMenu", [&](auto owner) { return registrar.AddMenu(module, test::kMenu, owner, CLSID_PvwIO); }},
+      {"AddPopupMenu",
+       [&](auto owner) {
+         return registrar.AddPopupMenu(kPane, module, test::kDeepMenu, owner, CLSID_PvwIO);
+       }},
+      {"AddToolbar",
+       [&](auto owner) {
+         return registrar.AddToolbar("{TB}", "Cpu", module, test::kToolbar, 0, owner, CLSID_PvwIO);
+       }},
+      {"AddAccelerators",
+       [&](auto owner) {
+         return registrar.AddAccelerators(module, test::kKeys, owner, CLSID_PaneAccelerators);
+       }},
+      {"AddCommandSink", [&](auto owner) { return registrar.AddCommandSink(owner, CLSID_PvwIO, kPane); }},
+      {"AddCommandStrings",
+       [&](auto owner) { return registrar.AddCommandStrings(module, owner, CLSID_PvwIO); }},
+      {"AddPage",
+       [&](auto owner) { return registrar.AddPage(kParent, kPane, -1, "All Register", owner, CLSID_PvwIO); }},
+      {"AddPage",
+       [&](auto owner) { return registrar.SetAcceleratorWindow(kPane, owner, CLSID_PaneAccelerators); }},
+  };
+};
+
+TEST_F(UiRegistrarTest, TellsTheHostEachThingWithItsCommandsAndTakesItBackInTheOrderOfItsTables) {
+  for (const Registration& each : kEach) EXPECT_EQ(each.add(kOwner), S_OK);
+  EXPECT_THAT(host.Transcript(), ElementsAre("AddMenu 10 owner 3 PvwIO [28672 61439 28672] - - \"\" \"\" 1",
+                                             "AddPopupMenu pane 12 owner 3 PvwIO [30001 30002 30003 30004]",
+                                             "AddToolbar {TB} \"Cpu\" 20 0 owner 3 PvwIO [32817 5 32826]",
+                                             "AddAccelerators 30 owner 3 PaneAccelerators [39507 5] - -",
+                                             "AddCommandSink pane owner 3 PvwIO",
+                                             "AddCommandStrings of the module owner 3 PvwIO",
+                                             "AddPage parent pane -1 \"All Register\" 0 0 owner 3 PvwIO",
+                                             "AddPage none pane 0 \"\" 0 0 owner 3 PaneAccelerators"));
+
+  host.ClearTranscript();
+  registrar.ReleaseOwner(kOwner);
+  EXPECT_THAT(
+      host.Transcript(),
+      ElementsAre("RemovePage parent pane owner 3 PvwIO", "GetPageCount parent", "RemoveParentWindow parent",
+                  "RemovePage none pane owner 3 PaneAccelerators", "RemovePopupMenu pane 12 owner 3 PvwIO",
+                  "RemoveMenu 10 owner 3 PvwIO", "RemoveAccelerators 30 owner 3 PaneAccelerators",
+                  "RemoveToolbar {TB} owner 3 PvwIO", "RemoveCommandStrings of the module owner 3 PvwIO",
+                  "RemoveCommandSink pane owner 3 PvwIO"));
+
+  host.ClearTranscript();
+  registrar.ReleaseOwner(kOwner);
+  EXPECT_THAT(host.Transcript(), IsEmpty()) << "it has nothing any more";
+}
+
+TEST_F(UiRegistrarTest, KeepsWhatTheHostAnswersWithZeroAndNothingElse) {
+  for (const Registration& each : kEach) {
+    for (const Status status : {E_FAIL, 1}) {
+      SCOPED_TRACE(each.operation + std::string(" gives ") + std::to_string(status));
+      host.FailNext(each.operation, status);
+      EXPECT_EQ(each.add(kOwner), status);
+      host.ClearTranscript();
+      registrar.ReleaseOwner(kOwner);
+      EXPECT_THAT(host.Transcript(), IsEmpty());
+    }
+  }
+}
+
+TEST_F(UiRegistrarTest, KeepsEqualThingsApartAndUndoesThemAsTheyCame) {
+  registrar.AddMenu(module, test::kDeepMenu, kOwner, CLSID_PvwIO);
+  registrar.AddMenu(module, test::kMenu, kOwner, CLSID_PvwIO);
+  registrar.AddMenu(module, test::kDeepMenu, kOwner, CLSID_PvwIO);
+  registrar.AddMenu(module, test::kMenu, 4, CLSID_PvwIO);
+  host.ClearTranscript();
+  registrar.ReleaseOwner(kOwner);
+  EXPECT_THAT(host.Transcript(), ElementsAre("RemoveMenu 12 owner 3 PvwIO", "RemoveMenu 10 owner 3 PvwIO",
+                                             "RemoveMenu 12 owner 3 PvwIO"));
+  EXPECT_THAT(host.Ui().Live(), ElementsAre("menu 10 owner 4")) << "another owner's stays";
+
+  host.ClearTranscript();
+  registrar.ReleaseOwner(kOwner + (HWND{1} << 32));
+  EXPECT_THAT(host.Transcript(), IsEmpty()) << "a window is another owner than the id in its lower half";
+}
+
+TEST_F(UiRegistrarTest, TheParentGoesWithItsLastPage) {
+  registrar.AddPage(kParent, kPane, -1, "All", 3, CLSID_PvwIO);
+  registrar.AddPage(kParent, kPane + 1, -1, "Selected", 5, CLSID_PvwIO);
+
+  registrar.ReleaseOwner(3);
+  EXPECT_THAT(host.Asked("RemoveParentWindow"), IsEmpty()) << "one page is left";
+  host.FailNext("GetPageCount");
+  registrar.AddPage(kParent, kPane, -1, "All", 3, CLSID_PvwIO);
+  registrar.ReleaseOwner(3);
+  EXPECT_THAT(host.Asked("RemoveParentWindow"), IsEmpty()) << "the host can't count";
+  registrar.ReleaseOwner(5);
+  EXPECT_THAT(host.Asked("RemoveParentWindow"), ElementsAre("RemoveParentWindow parent"));
+}
+
+TEST_F(UiRegistrarTest, AResourceThatIsntThereRegistersNothing) {
+  EXPECT_EQ(registrar.AddMenu(module, 99, kOwner, CLSID_PvwIO), 1);
+  EXPECT_EQ(registrar.AddPopupMenu(kPane, module, 99, kOwner, CLSID_PvwIO), 1);
+  EXPECT_EQ(registrar.AddAccelerators(module, 99, kOwner, CLSID_PvwIO), 1);
+  EXPECT_EQ(registrar.AddToolbar("{TB}", "Cpu", module, 99, 0, kOwner, CLSID_PvwIO), E_FAIL);
+  EXPECT_THAT(host.Transcript(), IsEmpty());
+
+  const std::uint32_t own[] = {7};
+  EXPECT_EQ(registrar.AddToolbar("{TB}", "Cpu", module, 99, 0, kOwner, CLSID_PvwIO, own), S_OK)
+      << "a list of its own needs no resource";
+  EXPECT_THAT(host.Transcript(), ElementsAre("AddToolbar {TB} \"Cpu\" 99 0 owner 3 PvwIO [7]"));
+}
+
+TEST_F(UiRegistrarTest, GivesAPanesToolbarTheListsThatItHas) {
+  const std::uint32_t fifth[] = {32773, 32771, 32774};
+  EXPECT_EQ(registrar.AddPaneToolbar(kParent, module, 204, 0, kOwner, CLSID_PvwIO, {{{}, {}, {}, {}, fifth}}),
+            S_OK);
+  EXPECT_THAT(host.Transcript(),
+              ElementsAre("AddPaneToolbar parent 204 0 owner 3 PvwIO - - - - [32773 32771 32774]"));
+  host.ClearTranscript();
+  registrar.ReleaseOwner(kOwner);
+  EXPECT_THAT(host.Transcript(), IsEmpty()) << "it goes with its window";
+}
+
+TEST_F(UiRegistrarTest, FindsAWindowHandsATextToAndFroAndTurnsItsToolbar) {
+  HWND window = kPane;
+  std::string text = "in";
+  EXPECT_EQ(registrar.FindDockableWindow("{ID}", "IO", nullptr, 0x10, 0xE81E, &window, &text), E_FAIL);
+  EXPECT_EQ(window, 0u) << "there is none yet";
+  EXPECT_EQ(text, "in");
+
+  EXPECT_EQ(registrar.FindDockableWindow("{ID}", "IO", nullptr, 0x1086, 0xE81E, &window, &text), S_OK);
+  const HWND made = window;
+  EXPECT_EQ(host.Ui().Name(made), "dock1");
+  EXPECT_EQ(text, "text of {ID}");
+  EXPECT_EQ(registrar.GetDockableWindow("{ID}", "IO", 0xE81C, &window, &text), E_FAIL) << "it is hidden";
+  EXPECT_EQ(window, 0u);
+
+  EXPECT_EQ(registrar.SetDockState(made, 2), S_OK);
+  EXPECT_EQ(registrar.GetDockableWindow("{ID}", "IO", 0xE81C, &window, nullptr), S_OK);
+  EXPECT_EQ(window, made);
+  registrar.ShowToolbar(made, false);
+  EXPECT_FALSE(registrar.IsToolbarShown(made)) << "a positive status is no yes";
+  registrar.ShowToolbar(made, true);
+  EXPECT_THAT(host.Transcript(),
+              ElementsAre("FindDockableWindow {ID} \"IO\" no client flags 10 position E81E text \"in\"",
+                          "FindDockableWindow {ID} \"IO\" no client flags 1086 position E81E text \"in\"",
+                          "GetDockableWindow {ID} \"IO\" 0 position E81C text \"text of {ID}\"",
+                          "SetDockState dock1 2", "GetDockableWindow {ID} \"IO\" 0 position E81C",
+                          "ShowToolbar dock1 0", "IsToolbarShown dock1", "ShowToolbar dock1 -1"));
+}
+
+TEST_F(UiRegistrarTest, AnOwnerIdThatTheHostRefusesIsNone) {
+  std::uint32_t id = 9;
+  host.FailNext("AllocOwnerId");
+  EXPECT_EQ(registrar.AllocOwnerId(&id), E_FAIL);
+  EXPECT_EQ(id, 0u);
+}
+
+// The host lacks one service, or gives null for it: what needs it fails, and the rest works and is undone.
+TEST(UiRegistrarWithoutAService, FailsWhatNeedsItAndNothingElse) {
+  const platform::ResourceRegistration resources(test::kMenuWorld, platform::ResourceRole::kLibrary);
+  const platform::HMODULE module = ComponentModule();
+  for (const platform::GUID& service :
+       {IID_IQUiManager, IID_IQToolbarManager, IID_IQPageHost, IID_IQUiExtra}) {
+    for (const bool as_null : {false, true}) {
+      SCOPED_TRACE(platform::GuidText(service) + (as_null ? " given as null" : " lacking"));
+      const bool manager = service != IID_IQUiManager;
+      const bool toolbars = service != IID_IQToolbarManager;
+      FakeHost host;
+      as_null ? host.GiveNull(service) : host.Lack(service);
+      CUiRegistrar registrar(&host);
+      std::uint32_t id = 9;
+      std::uint32_t state = 9;
+      HWND dock = 9;
+      HWND found = 9;
+
+      const Status by_toolbars[] = {
+          registrar.FindDockableWindow("{ID}", "IO", nullptr, 0x1086, 0, &dock, nullptr),
+          registrar.AddToolbar("{TB}", "Cpu", module, test::kToolbar, 0, 3, CLSID_PvwIO),
+          registrar.AddPaneToolbar(kParent, module, 204, 0, 3, CLSID_PvwIO, {}),
+          registrar.ShowToolbar(dock, true), registrar.CustomizeToolbar(dock)};
+      EXPECT_THAT(by_toolbars, testing::Each(toolbars ? S_OK : E_FAIL));
+      EXPECT_EQ(registrar.IsToolbarShown(dock), toolbars);
+      const Status by_manager[] = {registrar.AllocOwnerId(&id),
+                                   registrar.FreeOwnerId(&id),
+                                   registrar.AddMenu(module, test::kMenu, 3, CLSID_PvwIO),
+                                   registrar.AddPopupMenu(kPane, module, test::kMenu, 3, CLSID_PvwIO),
+                                   registrar.AddAccelerators(module, test::kKeys, 3, CLSID_PvwIO),
+                                   registrar.AddCommandSink(3, CLSID_PvwIO, kPane),
+                                   registrar.AddCommandStrings(module, 3, CLSID_PvwIO),
+                                   registrar.AddPage(kParent, kPane, -1, "All", 3, CLSID_PvwIO)};
+      EXPECT_THAT(by_manager, testing::Each(manager ? S_OK : E_FAIL));
+      const Status by_both[] = {registrar.SetDockState(dock, 2), registrar.GetDockState(dock, &state),
+                                registrar.GetDockableWindow("{ID}", "IO", 0, &found, nullptr)};
+      EXPECT_THAT(by_both, testing::Each(manager && toolbars ? S_OK : E_FAIL));
+      EXPECT_EQ(id, manager ? 1u : 0u);
+      EXPECT_EQ(dock != 0, toolbars);
+      EXPECT_EQ(state, manager && toolbars ? 8u : 0u);
+      EXPECT_EQ(found, manager ? dock : 0u);
+
+      registrar.ReleaseOwner(3);
+      EXPECT_EQ(host.Ui().Live().size(), manager ? 0u : 1u) << "no manager takes the toolbar back";
+      EXPECT_EQ(host.Asked("GetPageCount").size(), manager && service != IID_IQPageHost ? 1u : 0u);
+    }
+  }
+  EXPECT_EQ(CUiRegistrar(nullptr).AddCommandSink(1, CLSID_PvwIO, kPane), E_FAIL);
+}
+
+}  // namespace
+}  // namespace pvw
