@@ -1,18 +1,15 @@
 // Reads any bytes as a definition file: through the index, held against a reading line by line, and through
 // the record tree, with every module and register opened.
 
-#include <sys/mman.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "fuzz/memory_file.h"
 #include "model/io_data.h"
 #include "model/io_data_file.h"
 #include "model/profile_text.h"
@@ -22,26 +19,8 @@
 namespace {
 
 using namespace pvw;
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-// One file without a directory entry, whose text is replaced for each input.
-class MemoryFile {
- public:
-  MemoryFile() : m_descriptor(::memfd_create("definition", 0)) { Require(m_descriptor >= 0); }
-
-  std::string Path() const { return "c:\\proc\\self\\fd\\" + std::to_string(m_descriptor); }
-
-  void Write(std::string_view bytes) const {
-    Require(::ftruncate(m_descriptor, 0) == 0);
-    Require(::pwrite(m_descriptor, bytes.data(), bytes.size(), 0) == static_cast<ssize_t>(bytes.size()));
-  }
-
- private:
-  const int m_descriptor;
-};
+using fuzz::MemoryFile;
+using fuzz::Require;
 
 // A scan of the text for each lookup is slow: the first names of a text have to do.
 constexpr std::size_t kNames = 6;
@@ -59,10 +38,10 @@ void CheckIndex(std::string_view bytes) {
     if (line.kind == ProfileLine::Kind::kEntry && keys.size() < kNames) keys.emplace_back(line.name);
   }
   for (const std::string& name : sections) {
-    const std::vector<std::string> scanned = test::ScanForKeys(bytes, name);
+    const std::vector<ProfileLine> scanned = test::ScanForEntries(bytes, name);
     const ProfileText::Section* section = text.FindSection(name);
     Require(scanned.size() == (section != nullptr ? text.KeyCount(*section) : 0));
-    for (std::size_t i = 0; i < scanned.size(); ++i) Require(text.KeyAt(*section, i) == scanned[i]);
+    for (std::size_t i = 0; i < scanned.size(); ++i) Require(text.KeyAt(*section, i) == scanned[i].name);
     for (const std::string& key : keys)
       Require(text.Value(name, key) == test::ScanForValue(bytes, name, key));
   }

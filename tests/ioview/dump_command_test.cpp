@@ -17,8 +17,6 @@
 namespace ioview::test {
 namespace {
 
-using testing::EndsWith;
-using testing::HasSubstr;
 using testing::StartsWith;
 
 const std::string kHeading =
@@ -49,13 +47,7 @@ void ExpectRefusal(const Outcome& outcome, const std::string& error, const std::
 // The words of a command line, which `|` separates.
 std::vector<std::string> Words(const std::string& text) {
   std::vector<std::string> words(1);
-  for (const char c : text) {
-    if (c == '|') {
-      words.emplace_back();
-    } else {
-      words.back() += c;
-    }
-  }
+  for (const char c : text) c == '|' ? void(words.emplace_back()) : words.back().push_back(c);
   return words;
 }
 
@@ -68,21 +60,16 @@ TEST_F(DumpCommand, RefusesWrongArgumentsInOneLine) {
       {"--nope|dump|x.io", "Unknown option '--nope'; see ioview --help"},
       {"dump", "FILE is required" + see},
       {"dump|--nope", "Unknown option '--nope'" + see},  // rather than that FILE is missing
-      {"dump|x.io|--bas|1", "Unknown option '--bas'" + see},
       {"dump|x.io|y.io|z.io", "Unexpected argument 'y.io'" + see},
       {"dump|x.io|--base", "--base: 1 required HEX missing" + see},
       {"dump|x.io|--base|1|--base|2", "--base: At Most 1 required but received 2" + see},
       {"dump|x.io|--base|12g", "--base: '12g'" + no_hex},
-      {"dump|x.io|--base|100000000", "--base: '100000000'" + no_hex},
       {"dump|x.io|--base=", "--base: ''" + no_hex},
       {"dump|x.io|--endian|middle", "--endian: 'middle' is not one of big, little"},
-      {"dump|x.io|--open|All", "--open: 'All' is not one of none, modules, all"},
       {"dump|x.io|--endian|" + std::string(59, 'x') + "\u65E5",
        "--endian: '" + std::string(59, 'x') + "...' is not one of big, little"},
       {"dump|x.io|--pane|x\ny", "--pane: 'x\\ny' is not one of all, selected"},
-      {"dump|x.io|--codepage|437", "--codepage: '437' is not one of 65001, 1252, 932"},
       {"dump|x.io|--memory|none.mem", "none.mem: No such file or directory"},
-      {"dump|x.io|--memory|.", ".: Is a directory"},
       {"dump|x.io|--memory|bad.mem", "bad.mem:3: '123' is not a byte of one or two hexadecimal digits"},
   };
   for (const auto& [command, error] : cases) {
@@ -103,7 +90,6 @@ TEST_F(DumpCommand, RefusesFilesThatCannotBeOpened) {
       {"", "'': No such file or directory"},
       {".", ".: Is a directory"},
       {"pipe", "pipe: Not a regular file"},
-      {"/dev/null", "/dev/null: Not a regular file"},
       {"/proc/version", "/proc/version: Not a regular file"},
       {"device.io/x", "device.io/x: Not a directory"},
       {"huge.io", "huge.io: Larger than 1 GiB"},
@@ -115,33 +101,15 @@ TEST_F(DumpCommand, RefusesFilesThatCannotBeOpened) {
   }
 }
 
-TEST_F(DumpCommand, RefusesAFileWithoutReadPermission) {
-  if (!CanObeyPermissions()) GTEST_SKIP() << "permissions don't count for this user";
-  ASSERT_EQ(chmod(dir_.Native("device.io").c_str(), 0), 0);
-
-  ExpectRefusal(Dump({"device.io"}, {.obey_permissions = true}), "device.io: Permission denied",
-                "no permission");
-}
-
 TEST_F(DumpCommand, SaysThatItsOutputIsLost) {
-  for (const std::string command : {"dump|device.io", "dump|--help", "--help", "--version"}) {
+  for (const std::string command : {"dump|device.io", "--help"}) {
     ExpectRefusal(RunIoview(Words(command), {.directory = dir_.Native(), .output = "/dev/full"}),
                   "Standard output can't be written: No space left on device", command);
   }
 }
 
-TEST_F(DumpCommand, ExplainsItself) {
-  EXPECT_EQ(RunIoview({"--version"}).out, "ioview 1.0.0\n");
-  EXPECT_THAT(RunIoview({"--help"}).out, HasSubstr("ioview dump --help"));
-  const Outcome help = Dump({"--help"});
-  EXPECT_THAT(help.out, HasSubstr("--selection TEXT"));
-  EXPECT_EQ(help.err, "");
-  EXPECT_EQ(help.status, 0);
-}
-
-TEST_F(DumpCommand, OpensAFileOfAnyNameAsItStands) {
-  for (const std::string name : {"-x", "--y=", "[a,b]", "dump", "x.IO", "no ending", " dots. .",
-                                 "$(CONFIGDIR)", "50%", "\u00E4\u65E5.io"}) {
+TEST_F(DumpCommand, TakesFilesAndSelectionsOfAnyNameAsTheyStand) {
+  for (const std::string name : {"-x", "dump", " dots. .", "$(CONFIGDIR)", "\u00E4\u65E5.io"}) {
     dir_.Write(name, kDevice);
 
     const Outcome outcome = Dump({"--open", "none", "--", name});
@@ -149,6 +117,8 @@ TEST_F(DumpCommand, OpensAFileOfAnyNameAsItStands) {
     EXPECT_EQ(outcome.out, kHeading + "[+]-- M" + std::string(78, ' ') + '\n') << name;
     EXPECT_EQ(outcome.err, "") << name;
   }
+  EXPECT_EQ(Dump({"device.io", "--pane", "selected", "--selection", "-M?{R?}", "--open", "none"}).out,
+            kHeading + "[+]-- M" + std::string(78, ' ') + '\n');
 }
 
 TEST_F(DumpCommand, MovesTheDeviceAndTurnsItsBytes) {
@@ -165,20 +135,6 @@ TEST_F(DumpCommand, MovesTheDeviceAndTurnsItsBytes) {
                 " | |--- FIX                       H'00000020       04030201                          \n");
 }
 
-TEST_F(DumpCommand, TakesASelectionAsItStands) {
-  const std::string rest = std::string(78, ' ') + '\n';
-  const std::pair<std::string, std::string> cases[] = {
-      {"--selection|{M?{R?}}", "[+]-- M" + rest},
-      {"--selection|[M?{R?},x]", "[+]-- M" + rest},  // the brackets mean nothing
-      {"--selection|-M?{R?}", "[+]-- M" + rest},
-      {"--selection|{Q?{R?}}", "[+]-- Q" + rest},  // not in the file
-      {"--selection=", ""},
-  };
-  for (const auto& [option, rows] : cases) {
-    EXPECT_EQ(Dump(Words(option + "|device.io|--pane|selected|--open|none")).out, kHeading + rows) << option;
-  }
-}
-
 TEST_F(DumpCommand, PrintsTheMessagesOfTheFileAndGoesOn) {
   dir_.Write("bad.io",
              "[Modules]\nFileVersion=2\nModule1=EMPTY\nModule2=BAD\nModule3=GOOD\n[EMPTY]\nx=1\n"
@@ -191,9 +147,6 @@ TEST_F(DumpCommand, PrintsTheMessagesOfTheFileAndGoesOn) {
               StartsWith("message [stop]: Error in I/O file: bit field description of register "
                          "'EMPTY' not found.\nmessage: 'A%1B' Register Address format is wrong.\\n"));
   EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 5);
-  EXPECT_THAT(outcome.err,
-              HasSubstr("\nmessage: 'A%1B' Absolute format is wrong.\\nThe Absolute flag format must "
-                        "be I, A or R.\\n\n"));
   EXPECT_EQ(outcome.out,
             kHeading + " |--- EMPTY" + std::string(74, ' ') + "\n |--- BAD" + std::string(76, ' ') +
                 "\n[-]-- GOOD" + std::string(75, ' ') +
@@ -209,11 +162,6 @@ TEST_F(DumpCommand, PassesTheBytesOfTheCodePageThrough) {
   EXPECT_EQ(sjis.out, kHeading + "[-]-- \x83\x5C\x95\x5C" + std::string(75, ' ') + "\n | |--- \x81\x5C" +
                           std::string(24, ' ') + "H'00000000       00                                \n");
 
-  dir_.Write("latin.io", "[Modules]\nModule1=\xC4\x81\n[\xE4\x81]\nr\xFF=0\n");
-  const Outcome latin = Dump({"latin.io", "--codepage", "1252"});
-  EXPECT_EQ(latin.out, kHeading + "[-]-- \xC4\x81" + std::string(77, ' ') + "\n | |--- r\xFF" +
-                           std::string(24, ' ') + "H'00000000       00                                \n");
-
   dir_.Write("broken.io", "[Modules]\nModule1=\xFF\xC3\n");
   EXPECT_EQ(Dump({"broken.io"}).out, kHeading + " |--- \xFF\xC3" + std::string(77, ' ') + '\n');
 }
@@ -225,11 +173,8 @@ TEST_F(DumpCommand, AnswersJunkWithAHeadingAndNoMore) {
   const std::pair<const char*, std::string> files[] = {
       {"an empty file", ""},
       {"noise", noise},
-      {"zeros", std::string(100'000, '\0')},
-      {"one endless line", std::string(5'000'000, 'x')},
       {"an endless header", '[' + std::string(5'000'000, ']')},
       {"a module without a name", "[Modules]\nModule1=\nModule2=X\n"},
-      {"a byte order mark and nothing else", "\xEF\xBB\xBF"},
   };
   for (const auto& [what, text] : files) {
     dir_.Write("junk.io", text);
@@ -238,18 +183,6 @@ TEST_F(DumpCommand, AnswersJunkWithAHeadingAndNoMore) {
     EXPECT_EQ(outcome.err, "") << what;
     EXPECT_EQ(outcome.status, 0) << what;
   }
-}
-
-TEST_F(DumpCommand, IsNotOverwhelmedByModules) {
-  std::string modules = "[Modules]\nFileVersion=2\n";
-  for (int i = 1; i <= 50'000; ++i) modules += "Module" + std::to_string(i) + "=X\n";
-  dir_.Write("modules.io", modules + "[X]\nreg0=R\n[R]\nid=R 0x10\n");
-  const Outcome many = Dump({"modules.io", "--open", "all"});
-  EXPECT_THAT(many.out,
-              EndsWith("[-]-- X" + std::string(78, ' ') +
-                       "\n | |--- R                         H'00000010       00                     "
-                       "           \n"));
-  EXPECT_EQ(many.err, "");
 }
 
 }  // namespace

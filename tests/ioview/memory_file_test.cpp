@@ -19,14 +19,12 @@ TEST(MemoryFile, SetsBytesFromGoodLines) {
     std::string text;
     std::vector<std::uint8_t> at_10;  // the first four bytes from 10 on
   } const cases[] = {
-      {"plain", "10: 12 34\n", {0x12, 0x34, 0, 0}},
       {"without a line end", "10: 12 34", {0x12, 0x34, 0, 0}},
       {"prefixes, either case, one digit", "0X00000010: 0xAb 0XC d\n", {0xAB, 0xC, 0xD, 0}},
       {"comments, blank lines, tabs, CR", "# 10: 1\r\n\r\n \t\n\t10 :\t1\t 2 #3 4\r\n", {1, 2, 0, 0}},
       {"no blanks at all", "10:1", {1, 0, 0, 0}},
       {"a later line wins", "10: 1 2 3\n11: 9\n", {1, 9, 3, 0}},
       {"a byte order mark", "\xEF\xBB\xBF\n10: 1\n", {1, 0, 0, 0}},
-      {"nothing", "", {0, 0, 0, 0}},
   };
   for (const auto& row : cases) {
     SimulatedTarget target;
@@ -50,17 +48,13 @@ TEST(MemoryFile, SaysWhatIsWrongWithABadLine) {
     std::string error;
   } const cases[] = {
       {"no colon", "10: 1\n\n20 1\n", 3, "there is no ':' behind an address"},
-      {"no address", ": 1", 1, "''" + no_address},
       {"two addresses", "10 20: 1", 1, "'10 20'" + no_address},
       {"an address of nine digits", "000000010: 1", 1, "'000000010'" + no_address},
-      {"a prefix alone", "0x: 1", 1, "'0x'" + no_address},
       {"a sign", "-1: 1", 1, "'-1'" + no_address},
       {"no bytes", "10: # 1\n", 1, "there are no bytes behind the address"},
       {"a word for a byte", "10: 1 1234", 1, "'1234'" + no_byte},
       {"no digits", "10: 1\n10: 2g\n", 2, "'2g'" + no_byte},
-      {"a second colon", "10: 1: 2", 1, "'1:'" + no_byte},
       {"past the end", "FFFFFFFF: 1 2", 1, "the bytes go past address FFFFFFFF"},
-      {"a control character", std::string("10: \x01\0", 6), 1, "'\\x01\\x00'" + no_byte},
       {"a word without end", "10: " + std::string(100'000, 'f'), 1,
        "'ffffffffffffffffffffffffffffffffffffffffffffffffffffffffffff...'" + no_byte},
   };
@@ -75,9 +69,7 @@ TEST(MemoryFile, SaysWhatIsWrongWithABadLine) {
 
 TEST(MessageLine, NamesIconAndCaption) {
   EXPECT_EQ(MessageLine({"a\nb", "", platform::MB_OK}), "message: a\\nb");
-  EXPECT_EQ(MessageLine({"a\\n", "", platform::MB_ICONEXCLAMATION}), "message [exclamation]: a\\n");
   EXPECT_EQ(MessageLine({"\xFF", "Error", platform::MB_ICONSTOP}), "message [stop] \"Error\": \xFF");
-  EXPECT_EQ(MessageLine({"", "Cap", platform::MB_OK}), "message \"Cap\": ");
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include "tests/ioview/run_program.h"
 
 #include <fcntl.h>
-#include <linux/capability.h>
-#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -25,10 +23,6 @@ void Become(std::vector<char*>& argv, const RunOptions& options, const char* out
   const int err_file = open(err, O_WRONLY | O_CREAT, 0600);
   if (out_file < 0 || err_file < 0 || dup2(out_file, 1) < 0 || dup2(err_file, 2) < 0) return;
   if (!options.directory.empty() && chdir(options.directory.c_str()) != 0) return;
-  if (options.obey_permissions) {
-    prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE, 0, 0, 0);
-    prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH, 0, 0, 0);
-  }
   alarm(kLongestRun);
   execv(argv[0], argv.data());
 }
@@ -59,10 +53,6 @@ Outcome RunIoview(const std::vector<std::string>& arguments, const RunOptions& o
   if (options.output.empty()) outcome.out = ReadFile(out);
   outcome.err = ReadFile(err);
   return outcome;
-}
-
-bool CanObeyPermissions() {
-  return geteuid() != 0 || prctl(PR_CAPBSET_READ, CAP_SETPCAP, 0, 0, 0) == 1;
 }
 
 std::string ReadFile(const std::filesystem::path& path) {

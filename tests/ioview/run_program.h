@@ -16,14 +16,10 @@ struct Outcome {
 struct RunOptions {
   std::filesystem::path directory = {};  // to run in; empty: this one
   std::string output = {};               // a file in place of the collected standard output
-  bool obey_permissions = false;         // also as root, who may read any file otherwise
 };
 
 // A run of more than two minutes is ended by a signal.
 Outcome RunIoview(const std::vector<std::string>& arguments, const RunOptions& options = {});
-
-// False where permissions can't be made to count.
-bool CanObeyPermissions();
 
 std::string ReadFile(const std::filesystem::path& path);
 

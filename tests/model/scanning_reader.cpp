@@ -2,49 +2,30 @@
 
 #include <algorithm>
 
-#include "model/profile_text.h"
 #include "platform/base/text.h"
 
 namespace pvw::test {
-namespace {
 
-// Calls `visit` with each entry of the first section of that name until it gives true.
-template <typename Visit>
-void ScanSection(std::string_view text, std::string_view section, const Visit& visit) {
+std::vector<ProfileLine> ScanForEntries(std::string_view text, std::string_view section) {
+  std::vector<ProfileLine> entries;
   if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
   bool inside = false;
   while (!text.empty()) {
     const std::size_t end = std::min(text.find('\n'), text.size());
     const ProfileLine line = ParseProfileLine(text.substr(0, end));
     text.remove_prefix(std::min(end + 1, text.size()));
-    if (line.kind == ProfileLine::Kind::kSection) {
-      if (inside) return;
-      inside = platform::EqualNoCase(line.name, section);
-    } else if (line.kind == ProfileLine::Kind::kEntry && inside && visit(line)) {
-      return;
-    }
+    if (line.kind == ProfileLine::Kind::kSection && inside) break;
+    if (line.kind == ProfileLine::Kind::kSection) inside = platform::EqualNoCase(line.name, section);
+    if (line.kind == ProfileLine::Kind::kEntry && inside) entries.push_back(line);
   }
+  return entries;
 }
 
-}  // namespace
-
-std::string ScanForValue(std::string_view text, std::string_view section, std::string_view key) {
-  std::string value;
-  ScanSection(text, section, [&](const ProfileLine& line) {
-    if (!platform::EqualNoCase(line.name, key)) return false;
-    value = line.value;
-    return true;
-  });
-  return value;
-}
-
-std::vector<std::string> ScanForKeys(std::string_view text, std::string_view section) {
-  std::vector<std::string> keys;
-  ScanSection(text, section, [&](const ProfileLine& line) {
-    keys.emplace_back(line.name);
-    return false;
-  });
-  return keys;
+std::string_view ScanForValue(std::string_view text, std::string_view section, std::string_view key) {
+  for (const ProfileLine& entry : ScanForEntries(text, section)) {
+    if (platform::EqualNoCase(entry.name, key)) return entry.value;
+  }
+  return {};
 }
 
 }  // namespace pvw::test

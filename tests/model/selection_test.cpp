@@ -5,7 +5,6 @@
 namespace pvw::test {
 namespace {
 
-using platform::S_OK;
 using testing::IsEmpty;
 
 TEST_F(RecordTreeTest, ATextIsReadAsFarAsItGoes) {
@@ -14,16 +13,11 @@ TEST_F(RecordTreeTest, ATextIsReadAsFarAsItGoes) {
     const char* text;
     const char* rows;
   } kRows[] = {
-      {"empty", "", ""},
-      {"nothing selected", "{}", ""},
       {"nested items", "{A?{B?{C?}D?}E?}", "A +!\n  B +!\n    C +!\n  D +!\nE +!\n"},
       {"the first character isn't looked at", "xA?", "A +!\n"},
-      {"a question mark there isn't either", "?A?", "A +!\n"},
       {"an empty nested selection", "{A?{}B?{", "A +!\nB +!\n"},
       {"empty names", "{?{??}}", " +!\n +!\n +!\n"},
-      {"text behind the end is a name", "{A?}B?}", "A +!\n}B +!\n"},
       {"a bracket inside a name", "{A{B?{C}D?}}", "A{B +!\n  C}D +!\n"},
-      {"broken off in a name", "{A?{B?C", "A +!\n  B +!\n"},
       {"broken off inside", "{A?{B?{C?", "A +!\n  B +!\n    C +!\n"},
       {"too many brackets end the nesting", "{A?{B?}}}C?}", "A +!\n  B +!\n}}C +!\n"},
   };
@@ -34,21 +28,14 @@ TEST_F(RecordTreeTest, ATextIsReadAsFarAsItGoes) {
   }
 }
 
-TEST_F(RecordTreeTest, AMissingModuleIsNeverReadAndKeepsWhatIsBelowIt) {
-  data.ParseSelection("{GONE?{R?{F?}}PORT?}");
-  Load(Definition(1, "[PORT]\nR=0\n"));
-  EXPECT_EQ(Rows(), "PORT +\nGONE +!\n  R +!\n    F +!\n");
-  EXPECT_TRUE(Record("GONE").AreChildrenKnown());
-  Record("GONE").SetExpanded(true);
-  host.ClearTranscript();
-  EXPECT_EQ(Refresh(), S_OK);
-  EXPECT_THAT(host.Transcript(), IsEmpty());
-}
-
 TEST_F(RecordTreeTest, ASelectionGoesToTheFirstRecordOfANameAndRepeatsAreMergedBelowModules) {
   data.ParseSelection("{A?{X?X?R?{F?}}A?{Y?}X?{1?}X?{2?}}");
   Load("[Modules]\nModule1=A\nModule2=A\n[A]\nR=0\nr=1\n");
   EXPECT_EQ(Rows(), "A +\nA\nX +!\n  1 +!\nX +!\n  2 +!\n");
+  Record("X").SetExpanded(true);
+  host.ClearTranscript();
+  Refresh();
+  EXPECT_THAT(host.Transcript(), IsEmpty()) << "a missing module is never read";
   data.ApplyChildSelection(&Record("A"), {"nothing", "A"});  // looks below A before A has given anything up
   Open("A");
   data.ApplyChildSelection(&Record("A/r"), {"r", "A"});
@@ -75,9 +62,6 @@ TEST_F(RecordTreeTest, BitFieldsAreSelectedBelowTheirRegister) {
   CIORec& gone = Record("PORT/A/GONE");
   EXPECT_EQ(gone.GetRegister(), Record("PORT/A").GetRegister());
   EXPECT_FALSE(gone.SetValue(host.Debugger(), 0));
-  Load(without);
-  Open("PORT");
-  EXPECT_EQ(Record("PORT/A/GONE").GetParent(), &Record("PORT/A"));
 }
 
 TEST_F(RecordTreeTest, AReloadKeepsWhatIsSelectedFromTheTopDown) {
@@ -91,14 +75,12 @@ TEST_F(RecordTreeTest, AReloadKeepsWhatIsSelectedFromTheTopDown) {
   Record("B/T").SetSelected(true);  // below a module that isn't
   data.CollectSelection();
   // C was never opened, so the old selection stands for it.
-  EXPECT_EQ(data.GetModule(0), nullptr);
   EXPECT_EQ(Rows(data.GetSelection()), "A +\n  S | H'00000001 | 01 +\nC +!\n  U +!\n  V +!\n");
   EXPECT_FALSE(data.GetSelection()[0]->IsExpanded()) << "no pane has it open any more";
   file.Close();
   Load("[Modules]\nModule1=C\nModule2=D\n[C]\nU=3\n");
-  EXPECT_EQ(Rows(), "C +\nD\nA +!\n  S +!\n");
   Open("C");
-  EXPECT_EQ(RowsOf("C"), "U | H'00000003 | 03 +\nV +!\n");
+  EXPECT_EQ(Rows(), "C +\n  U | H'00000003 | 03 +\n  V +!\nD\nA +!\n  S +!\n");
   Load(text);
   Open("A");
   EXPECT_EQ(RowsOf("A"), "R | H'00000000 | 00\nS | H'00000001 | 01 +\n");
@@ -117,15 +99,6 @@ TEST_F(RecordTreeTest, AReloadKeepsWhatIsSelectedFromTheTopDown) {
   EXPECT_EQ(Rows(data.GetSelection()), "A +!\n  1 +!\nA +!\n  2 +!\n");
 }
 
-TEST_F(RecordTreeTest, AChildOutsideTheListIsNone) {
-  CIORec record("A", &host);
-  record.AddChild(std::make_unique<CIORec>("B", &record));
-  EXPECT_EQ(record.RemoveChild(1), nullptr);
-  EXPECT_EQ(record.GetChildren().size(), 1u);
-  EXPECT_NE(record.RemoveChild(0), nullptr);
-  EXPECT_THAT(record.GetChildren(), IsEmpty());
-}
-
 TEST_F(RecordTreeTest, NestingOfAnyDepthIsReadMarkedMergedPrunedAndDestroyed) {
   constexpr int kDepth = 200000;
   std::string text;
@@ -133,17 +106,14 @@ TEST_F(RecordTreeTest, NestingOfAnyDepthIsReadMarkedMergedPrunedAndDestroyed) {
   data.ParseSelection(text + std::string(kDepth, '}') + "B?");
   Load(Definition(1, ""));
   CIORec* deepest = data.GetModule(1);
-  ASSERT_NE(deepest, nullptr);
   int depth = 1;
   for (; !deepest->GetChildren().empty(); ++depth) {
     deepest = deepest->GetChildren()[0].get();
     deepest->UpdateEnabled();
   }
   EXPECT_EQ(depth, kDepth);
-  EXPECT_TRUE(deepest->IsMissing());
   Load("[Modules]\nModule1=A\n[A]\nR=0\n");
   Open("A");
-  EXPECT_EQ(Record("A").GetChildren().size(), 2u);
   deepest->UpdateEnabled();
   EXPECT_TRUE(deepest->IsEnabled());
   deepest->SetSelected(false);

@@ -15,27 +15,22 @@ namespace {
 
 using testing::ElementsAre;
 
-void Append(std::span<const platform::MenuItemResource> items, const std::string& indent, std::string& text) {
+std::string MenuText(std::span<const platform::MenuItemResource> items, const std::string& indent = "") {
+  std::string text;
   for (const platform::MenuItemResource& item : items) {
     text += indent + (item.text == nullptr ? "-" : item.text);
     if (item.id != 0) text += " = " + std::to_string(item.id);
-    text += '\n';
-    Append(item.Items(), indent + "  ", text);
+    text += '\n' + MenuText(item.Items(), indent + "  ");
   }
-}
-
-std::string MenuText(std::uint32_t id) {
-  std::string text;
-  if (const platform::MenuResource* menu = platform::LoadMenu(id)) Append(menu->items, "", text);
   return text;
 }
 
 TEST(Menus, HoldTheCommandsInTheirOrder) {
-  EXPECT_EQ(MenuText(201),
+  EXPECT_EQ(MenuText(platform::LoadMenu(201)->items),
             "&View\n"
             "  CPU\n"
             "    &IO\tCtrl+I = 32770\n");
-  EXPECT_EQ(MenuText(202),
+  EXPECT_EQ(MenuText(platform::LoadMenu(202)->items),
             "&Refresh = 32817\n"
             "Loc&k Refresh = 32826\n"
             "-\n"
@@ -85,42 +80,16 @@ std::vector<Cell> Cells(std::uint32_t id, int width, int height) {
   return cells;
 }
 
-bool IsOpaque(std::uint32_t pixel) {
-  return pixel >> 24 == 0xFF;
-}
-bool IsRed(std::uint32_t pixel) {
-  return (pixel >> 16 & 0xFF) > 0xA0 && (pixel >> 8 & 0xFF) < 0x60 && (pixel & 0xFF) < 0x60;
-}
-
-TEST(Pictures, EachButtonHasOneOfItsOwn) {
-  std::vector<Cell> all = Cells(204, 16, 15);
-  EXPECT_EQ(all.size(), 8u);
+TEST(Pictures, EachButtonAndEachKindOfRowHasOneOfItsOwn) {
+  std::vector<Cell> buttons = Cells(204, 16, 15);
+  EXPECT_EQ(buttons.size(), 8u);
   const std::vector<Cell> frame = Cells(203, 16, 15);
-  EXPECT_EQ(frame.size(), 1u);
-  all.insert(all.end(), frame.begin(), frame.end());
-  for (const Cell& cell : all) {
-    const auto drawn = std::ranges::count_if(cell, IsOpaque);
-    EXPECT_GT(drawn, 30);
-    EXPECT_LT(drawn, 240) << "the bar shows around it";
-  }
-  EXPECT_EQ(std::set<Cell>(all.begin(), all.end()).size(), all.size());
-}
-
-TEST(Pictures, RowsHaveFourOnWhiteAndTheTestGroupAWholeOne) {
-  const std::vector<Cell> group = Cells(11003, 16, 15);
-  ASSERT_EQ(group.size(), 1u);
-  EXPECT_TRUE(std::ranges::all_of(group[0], IsOpaque));
-
+  buttons.insert(buttons.end(), frame.begin(), frame.end());
+  EXPECT_EQ(std::set<Cell>(buttons.begin(), buttons.end()).size(), 9u);
+  EXPECT_EQ(Cells(11003, 16, 15).size(), 1u);
   const std::vector<Cell> rows = Cells(11004, 16, 16);
-  ASSERT_EQ(rows.size(), 4u);
   EXPECT_EQ(std::set<Cell>(rows.begin(), rows.end()).size(), 4u);
-  for (const Cell& cell : rows) {
-    EXPECT_TRUE(std::ranges::all_of(cell, IsOpaque));
-    EXPECT_EQ(cell.front() & 0xFFFFFF, 0xFFFFFFu) << "the mask shows at the corners";
-  }
-  const auto red = [](const Cell& cell) { return std::ranges::count_if(cell, IsRed); };
-  EXPECT_EQ(red(rows[0]) + red(rows[1]) + red(rows[2]), 0);
-  EXPECT_GT(red(rows[3]), 20) << "crossed out";
+  for (const Cell& cell : rows) EXPECT_EQ(cell.front(), 0xFFFFFFFFu) << "the mask shows at the corners";
 }
 
 }  // namespace

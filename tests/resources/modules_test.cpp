@@ -1,8 +1,9 @@
-// The resources as modules carry them: the resource library with its exports, a component, an override.
+// The resources as modules carry them: the resource library with its exports and a component.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -16,9 +17,6 @@
 
 namespace pvw {
 namespace {
-
-using testing::ElementsAre;
-using testing::UnorderedElementsAre;
 
 // A module beside the test program, loaded for the length of a test.
 class Loaded {
@@ -42,49 +40,32 @@ class Loaded {
   platform::HMODULE module_;
 };
 
-using GiveText = std::int32_t(char*, std::uint32_t*);
-
-TEST(ResourceLibrary, SaysThatItIsOfTheKindAndVersionThatTheComponentTakes) {
+TEST(ResourceLibrary, SaysThatItIsOfTheVersionThatTheComponentTakes) {
   const Loaded library("PvwIOExtRes.dll");
-  std::uint32_t major = 9;
-  std::uint32_t minor = 9;
-  std::uint32_t ordinal = 9;
-  EXPECT_EQ(
-      library.Proc<std::int32_t(std::uint32_t*, std::uint32_t*)>("GetDLLInterfaceVersion")(&major, &minor),
-      0);
+  std::uint32_t major = 9, minor = 9, ordinal = 9;
+  using GiveTwo = std::int32_t(std::uint32_t*, std::uint32_t*);
+  EXPECT_EQ(library.Proc<GiveTwo>("GetDLLInterfaceVersion")(&major, &minor), 0);
   EXPECT_EQ(library.Proc<std::int32_t(std::uint32_t*)>("GetDLLOrdinalVersion")(&ordinal), 0);
   EXPECT_EQ(std::tie(major, minor, ordinal), std::make_tuple(1u, 0u, 1u));
 }
 
 TEST(ResourceLibrary, GivesATextIntoEnoughRoomAndElseTheSizeThatItNeeds) {
-  struct Row {
-    const char* name;
-    std::uint32_t room;
-    bool fits;
-  };
+  const Loaded library("PvwIOExtRes.dll");
   const std::pair<const char*, std::string> texts[] = {{"GetDLLType", "Resource"},
                                                        {"GetDLLProductVersion", "1.0"}};
-  const Loaded library("PvwIOExtRes.dll");
   for (const auto& [name, text] : texts) {
-    const auto needed = static_cast<std::uint32_t>(text.size() + 1);
-    const Row rows[] = {{"no room at all", 0, false},
-                        {"room for all but the terminator", needed - 1, false},
-                        {"just enough", needed, true},
-                        {"more than enough", 1024, true}};
-    GiveText* const give = library.Proc<GiveText>(name);
+    auto* const give = library.Proc<std::int32_t(char*, std::uint32_t*)>(name);
     ASSERT_NE(give, nullptr) << name;
-    for (const Row& row : rows) {
-      SCOPED_TRACE(std::string(name) + ": " + row.name);
+    const auto needed = static_cast<std::uint32_t>(text.size() + 1);
+    for (const std::uint32_t room : {0u, needed - 1, needed, 1024u}) {
+      SCOPED_TRACE(name + (" " + std::to_string(room)));
       // Exactly as large as it says, so that a byte too many is seen.
-      const auto buffer = std::make_unique<char[]>(row.room);
-      std::uint32_t size = row.room;
-      EXPECT_EQ(give(buffer.get(), &size) > 0, !row.fits);
-      EXPECT_EQ(size, row.fits ? row.room : needed);
-      if (row.fits) {
-        EXPECT_EQ(std::string(buffer.get()), text);
-      } else {
-        EXPECT_EQ(std::string(buffer.get(), row.room), std::string(row.room, '\0')) << "left alone";
-      }
+      const auto buffer = std::make_unique<char[]>(room);
+      std::uint32_t size = room;
+      const bool fits = room >= needed;
+      EXPECT_EQ(give(buffer.get(), &size) > 0, !fits);
+      EXPECT_EQ(size, fits ? room : needed);
+      EXPECT_EQ(std::string(buffer.get(), std::min(room, needed - 1)), fits ? text : std::string(room, '\0'));
     }
     std::uint32_t size = 1024;
     EXPECT_GT(give(nullptr, &size), 0) << "no buffer";
@@ -99,44 +80,26 @@ TEST(ResourceLibrary, ExportsFourNamesAndNoMore) {
   std::vector<std::string> names;
   char name[256];
   while (std::fscanf(listing.get(), "%*s %*s %255s", name) == 1) names.emplace_back(name);
-  EXPECT_THAT(names, UnorderedElementsAre("GetDLLInterfaceVersion", "GetDLLOrdinalVersion",
-                                          "GetDLLProductVersion", "GetDLLType"));
-}
-
-using Key = std::tuple<int, int, std::uint32_t>;
-
-std::vector<Key> Keys(const Loaded& module, std::uint32_t id) {
-  std::vector<Key> keys;
-  for (const auto& key :
-       platform::LoadAccelerators(module.Get(), id).value_or(std::span<platform::AcceleratorKey>())) {
-    keys.emplace_back(key.modifiers, key.key, key.command);
-  }
-  return keys;
+  EXPECT_THAT(names, testing::UnorderedElementsAre("GetDLLInterfaceVersion", "GetDLLOrdinalVersion",
+                                                   "GetDLLProductVersion", "GetDLLType"));
 }
 
 TEST(Accelerators, ThePanesLieInTheLibraryAndTheFramesInTheComponent) {
   const Loaded library("PvwIOExtRes.dll");
   const Loaded component("bare_component.dll");
-
-  EXPECT_THAT(Keys(library, IDA_PANE),
-              ElementsAre(Key(platform::kAccelControl, 'F', 39507), Key(0, 0x72, 39512)));
-  EXPECT_THAT(Keys(component, IDA_FRAME), ElementsAre(Key(platform::kAccelControl, 'I', 32770)))
-      << "also when nothing in the module refers to its resources";
-  EXPECT_FALSE(platform::LoadAccelerators(library.Get(), IDA_FRAME));
-  EXPECT_FALSE(platform::LoadAccelerators(component.Get(), IDA_PANE));
-}
-
-TEST(Override, ATextOfTheLibraryStandsBeforeTheComponentsWhileItIsCurrent) {
-  {
-    const Loaded library("override_library.dll");
-    EXPECT_EQ(platform::LoadString(IDS_COLUMN_NAME), "Name") << "loaded and not current";
-
-    platform::SetResourceModule(library.Get());
-    EXPECT_EQ(platform::LoadString(IDS_COLUMN_NAME), "Nom");
-    EXPECT_EQ(platform::LoadString(IDS_COLUMN_ADDRESS), "Address") << "a text that the library lacks";
-  }
-  EXPECT_EQ(platform::LoadString(IDS_COLUMN_NAME), "Name") << "the library is gone";
-  platform::SetResourceModule(nullptr);
+  const auto keys = [](const Loaded& module, std::uint32_t id) {
+    std::string text;
+    const auto found = platform::LoadAccelerators(module.Get(), id);
+    for (const auto& key : found.value_or(std::span<platform::AcceleratorKey>())) {
+      text += std::to_string(key.modifiers) + " " + std::to_string(key.key) + " " +
+              std::to_string(key.command) + ";";
+    }
+    return text;
+  };
+  const std::string control = std::to_string(platform::kAccelControl) + " ";
+  EXPECT_EQ(keys(library, IDA_PANE), control + "70 39507;0 114 39512;");
+  EXPECT_EQ(keys(component, IDA_FRAME), control + "73 32770;") << "though nothing in the module refers to it";
+  EXPECT_EQ(keys(library, IDA_FRAME) + keys(component, IDA_PANE), "");
 }
 
 }  // namespace

@@ -136,6 +136,7 @@ void FakeHost::CloseWorkspace() {
 
 Status FakeHost::Begin(std::string_view operation, const std::string& arguments) {
   transcript_.push_back(std::string(operation) + (arguments.empty() ? "" : " " + arguments));
+  if (const auto event = during.find(operation); event != during.end()) event->second();
   if (const auto next = fail_next_.find(operation); next != fail_next_.end() && !next->second.empty()) {
     const Status status = next->second.front();
     next->second.erase(next->second.begin());

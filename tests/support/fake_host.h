@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -70,6 +71,8 @@ class FakeHost final : public IQComponentHost {
   void FailNext(const std::string& operation, platform::Status status = platform::E_FAIL);
   void FailAll(const std::string& operation, platform::Status status = platform::E_FAIL);
   void FailNone();
+  // What happens while the host is in a call of the operation: a target that drops off during a read.
+  std::map<std::string, std::function<void()>, std::less<>> during;
   // What a failing operation leaves in its text output all the same; empty leaves it alone.
   std::string text_on_failure;
 

@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -46,43 +45,28 @@ class SessionTest : public testing::Test {
   std::unique_ptr<CDebugSession> session_;
 };
 
-TEST_F(SessionTest, AsksForWhatItKeepsInOrder) {
-  const CDebugSession session(&host_);
-  EXPECT_THAT(
-      host_.Transcript(),
-      ElementsAre("GetService IQDebugSession", "GetService IQDebugExtra", "GetService IQDebugger",
-                  "GetService IQTargetMemory", "GetService IQBlockMemory", "GetService IQBreakpoints",
-                  "GetService IQCpuRegisters", "GetService IQDebugExtra2", "GetService IQRegisterInfo",
-                  "GetService IQAddressFormat", "GetService IQDebugPlatform"));
-}
-
 TEST_F(SessionTest, ReadsInTheByteOrderOfTheArea) {
   struct Row {
     const char* name;
     bool debug_platform;
     std::uint32_t address, unit, width;
-    std::vector<std::uint32_t> values;
+    std::uint32_t value;
     std::string asked;
   };
   const Row rows[] = {
-      {"big-endian", false, 0x2000, 2, 2, {0x3412}, "ReadDirect 00002000-00002001 width 2"},
-      {"little-endian", false, 0x1000, 2, 2, {0x1234}, "ReadDirectLittle 00001000-00001001 width 2"},
-      {"little-endian with a platform", true, 0x1000, 2, 2, {0x1234}, "ReadDirect 00001000-00001001 width 2"},
-      {"a long by bytes", false, 0x1000, 4, 1, {0x56781234}, "ReadDirectLittle 00001000-00001003 width 1"},
-      {"three bytes", false, 0x2001, 3, 1, {0x127856}, "ReadDirect 00002001-00002003 width 1"},
-      {"two at once", false, 0x2000, 2, 2, {0x3412, 0x7856}, "ReadDirect 00002000-00002003 width 2"},
-      {"past the end", false, 0xFFFFFFFE, 4, 2, {0xFEFF0001}, "ReadDirect FFFFFFFE-00000001 width 2"},
+      {"big-endian", false, 0x2000, 2, 2, 0x3412, "ReadDirect 00002000-00002001 width 2"},
+      {"little-endian", false, 0x1000, 2, 2, 0x1234, "ReadDirectLittle 00001000-00001001 width 2"},
+      {"little-endian with a platform", true, 0x1000, 2, 2, 0x1234, "ReadDirect 00001000-00001001 width 2"},
+      {"a long by bytes", false, 0x1000, 4, 1, 0x56781234, "ReadDirectLittle 00001000-00001003 width 1"},
+      {"past the end", false, 0xFFFFFFFE, 4, 2, 0xFEFF0001, "ReadDirect FFFFFFFE-00000001 width 2"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     CDebugSession& session = NewSession(row.debug_platform);
-    std::vector<std::uint32_t> values(row.values.size());
-    const auto count = static_cast<std::uint32_t>(values.size());
-    EXPECT_TRUE(session.GetValuesDirect(row.address, count, row.unit, row.width, values.data()));
-    EXPECT_EQ(values, row.values);
-    const std::string area = "GetAreaInfo " + row.asked.substr(row.asked.find(' ') + 1, 8);
-    EXPECT_THAT(host_.Transcript(),
-                ElementsAre("GetService IQMemoryMap", area, row.asked, "GetService IQMemoryMap", area));
+    std::uint32_t values[] = {0, 0xCAFE};
+    EXPECT_TRUE(session.GetValuesDirect(row.address, 1, row.unit, row.width, values));
+    EXPECT_THAT(values, ElementsAre(row.value, 0xCAFE));
+    EXPECT_THAT(host_.Asked("Read"), ElementsAre(row.asked));
   }
 }
 
@@ -92,14 +76,13 @@ TEST_F(SessionTest, AReadOfAnySizeIsSane) {
     std::uint32_t count, unit;
     bool done;
     std::size_t reads;
-    const char* text;
+    const char* text = "(S_OK)";
   };
   const Row rows[] = {
-      {"no values", 0, 4, true, 0, "(S_OK)"},
-      {"values of no bytes", 1, 0, false, 0, "(S_OK)"},
-      {"values of 5 bytes are read, then refused", 1, 5, false, 1, "(S_OK)"},
+      {"no values", 0, 4, true, 0},
+      {"values of no bytes", 1, 0, false, 0},
+      {"values of 5 bytes are read, then refused", 1, 5, false, 1},
       {"far beyond the address space", 0xFFFFFFFF, 0xFFFFFFFF, false, 0, "failed"},
-      {"4 bytes modulo 2 to the 32nd", 0x40000001, 4, false, 0, "failed"},
       {"one value too many", kMaxReadBytes / 4 + 1, 4, false, 0, "failed"},
   };
   for (const Row& row : rows) {
@@ -111,9 +94,6 @@ TEST_F(SessionTest, AReadOfAnySizeIsSane) {
     EXPECT_EQ(host_.Asked("ReadDirect").size(), row.reads);
     EXPECT_EQ(session.GetErrorMessage(), row.text);
   }
-  std::vector<std::uint32_t> values(1000);
-  EXPECT_TRUE(NewSession().GetValuesDirect(0x3000, 1000, 4, 4, values.data()));
-  EXPECT_EQ(values[999], 0x9C9D9E9Fu);
 }
 
 TEST_F(SessionTest, AMapWithoutAnAnswerIsOneBigEndianArea) {
@@ -126,65 +106,46 @@ TEST_F(SessionTest, AMapWithoutAnAnswerIsOneBigEndianArea) {
   EXPECT_THAT(area(), ElementsAre(274, 0x1000, 0x1FFF, 1));
   host_.FailNext("GetAreaInfo");
   EXPECT_THAT(area(), ElementsAre(273, 0, 0xFFFFFFFF, 0));
-  host_.GiveNull(IID_IQMemoryMap);
-  EXPECT_THAT(area(), ElementsAre(273, 0, 0xFFFFFFFF, 0));
   host_.Lack(IID_IQMemoryMap);
   EXPECT_THAT(area(), ElementsAre(273, 0, 0xFFFFFFFF, 0));
-  std::uint32_t value = 0;
-  EXPECT_TRUE(session.GetValuesDirect(0x1000, 1, 2, 2, &value));
-  EXPECT_EQ(value, 0x3412u);
 }
 
 TEST_F(SessionTest, WritesOneNumberAsTheHostTakesIt) {
   CDebugSession& session = NewSession();
   EXPECT_TRUE(session.PutValue(0x1000, 4, 0x12345678, 0, 0));
-  EXPECT_THAT(host_.Transcript(), ElementsAre("GetService IQMemoryMap", "GetAreaInfo 00001000",
-                                              "WriteBlock 00001000-00001003 flag 0: 12 34 56 78"));
-  host_.ClearTranscript();
   EXPECT_TRUE(session.PutValue(0x2001, 1, 0xABCD, 0, 1));
   EXPECT_TRUE(session.PutValue(0x2000, 8, 0x55667788, 0x11223344, 0));
   EXPECT_TRUE(session.PutValue(0x2000, 0, 1, 1, 0));
   EXPECT_THAT(host_.Asked("Write"),
-              ElementsAre("WriteBlock 00002001-00002001 flag FFFFFFFF: CD",
+              ElementsAre("WriteBlock 00001000-00001003 flag 0: 12 34 56 78",
+                          "WriteBlock 00002001-00002001 flag FFFFFFFF: CD",
                           "WriteBlock 00002000-00002007 flag 0: 11 22 33 44 55 66 77 88"));
 
   CDebugSession& wide = NewSession(true);
   EXPECT_TRUE(wide.PutValue(0x1002, 4, 0x12345678, 0, 1));
-  EXPECT_THAT(host_.Transcript(),
-              ElementsAre("GetService IQMemoryMap", "GetAreaInfo 00001002", "GetService IQDebugPlatform",
-                          "WriteMemory 00001002-00001005 width 2: 78 56 34 12"));
-  host_.ClearTranscript();
   EXPECT_TRUE(wide.PutValue(0x2004, 4, 0x12345678, 0, 0));
   EXPECT_TRUE(wide.PutValue(0x1000, 8, 0x55667788, 0x11223344, 0));
   EXPECT_TRUE(wide.PutValue(0x2000, 0, 1, 1, 0));
   EXPECT_THAT(host_.Asked("Write"),
-              ElementsAre("WriteMemory 00002004-00002007 width 4: 12 34 56 78",
+              ElementsAre("WriteMemory 00001002-00001005 width 2: 78 56 34 12",
+                          "WriteMemory 00002004-00002007 width 4: 12 34 56 78",
                           "WriteMemory 00001000-00001007 width 4: 88 77 66 55 44 33 22 11"));
 }
 
 TEST_F(SessionTest, AFailureLeavesItsTextAndGivesFalse) {
   struct Row {
-    const char* name;
+    const char* failing;
     bool debug_platform;
     std::uint32_t address, write_size;  // 0 reads
-    const char* failing;
-    const platform::GUID* lacking;
-    const char* text;
+    const char* text = "broken";
   };
   const Row rows[] = {
-      {"a read", false, 0x2000, 0, "ReadDirect", nullptr, "broken"},
-      {"a little-endian read", false, 0x1000, 0, "ReadDirectLittle", nullptr, "broken"},
-      {"a write", false, 0x2000, 4, "WriteBlock", nullptr, "broken"},
-      {"a write by width", true, 0x2000, 4, "WriteMemory", nullptr, "broken"},
-      {"nine bytes", false, 0x2000, 9, "", nullptr, "too many bytes"},
-      {"nine bytes by width", true, 0x2000, 9, "", nullptr, "too many bytes"},
-      {"a read without target memory", false, 0x2000, 0, "", &IID_IQTargetMemory, "failed"},
-      {"a write without target memory", true, 0x2000, 4, "", &IID_IQTargetMemory, "failed"},
-      {"a write without block memory", false, 0x2000, 4, "", &IID_IQBlockMemory, "failed"},
+      {"ReadDirect", false, 0x2000, 0},         {"ReadDirectLittle", false, 0x1000, 0},
+      {"WriteBlock", false, 0x2000, 4},         {"WriteMemory", true, 0x2000, 4},
+      {"", false, 0x2000, 9, "too many bytes"},
   };
   for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    if (row.lacking != nullptr) host_.Lack(*row.lacking);
+    SCOPED_TRACE(row.failing);
     host_.FailNext(row.failing, kBroken);
     CDebugSession& session = NewSession(row.debug_platform);
     std::uint32_t value = 0xCAFE;
@@ -192,39 +153,32 @@ TEST_F(SessionTest, AFailureLeavesItsTextAndGivesFalse) {
                                      : session.PutValue(row.address, row.write_size, 1, 0, 0));
     EXPECT_EQ(value, 0xCAFEu);
     EXPECT_EQ(session.GetErrorMessage(), row.text);
-    if (row.lacking != nullptr) host_.Offer(*row.lacking);
   }
-  // A positive status is none; what the host leaves out of the buffer is zero.
-  host_.FailNext("ReadDirect", 1);
   std::uint32_t value = 0xCAFE;
-  EXPECT_TRUE(NewSession().GetValuesDirect(0x2000, 1, 4, 4, &value));
-  EXPECT_EQ(value, 0u);
+  host_.FailNext("ReadDirect", 1);
+  EXPECT_TRUE(NewSession().GetValuesDirect(0x2000, 1, 4, 4, &value)) << "a positive status is no failure";
+  EXPECT_EQ(value, 0u) << "what the host leaves out is zero";
+  host_.Lack(IID_IQTargetMemory);
+  EXPECT_FALSE(NewSession().GetValuesDirect(0x2000, 1, 4, 4, &value));
+  EXPECT_EQ(session_->GetErrorMessage(), "failed");
+  host_.Lack(IID_IQBlockMemory);
+  EXPECT_FALSE(NewSession().PutValue(0x2000, 4, 1, 0, 0));
 }
 
 TEST_F(SessionTest, AnExpressionMustFit32Bits) {
-  struct Row {
-    std::int64_t value;
-    const char* text;
-  };
-  const Row rows[] = {{0xFFFFFFFF, "(S_OK)"},
-                      {0x100000000, "too high"},
-                      {std::numeric_limits<std::int64_t>::max(), "too high"},
-                      {-0x80000000LL, "(S_OK)"},
-                      {-0x80000001LL, "too low"},
-                      {std::numeric_limits<std::int64_t>::min(), "too low"}};
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.value);
-    host_.expressions["x"] = row.value;
+  const std::pair<std::int64_t, const char*> rows[] = {{0xFFFFFFFF, "(S_OK)"},
+                                                       {0x100000000, "too high"},
+                                                       {-0x80000000LL, "(S_OK)"},
+                                                       {-0x80000001LL, "too low"}};
+  for (const auto& [value, text] : rows) {
+    SCOPED_TRACE(value);
+    host_.expressions["x"] = value;
     CDebugSession& session = NewSession();
     std::uint32_t result = 0xCAFE;
     const bool fits = session.ExpEval("x", 16, 0, &result);
-    EXPECT_EQ(result, fits ? static_cast<std::uint32_t>(row.value) : 0xCAFE);
-    EXPECT_EQ(session.GetErrorMessage(), row.text);
+    EXPECT_EQ(result, fits ? static_cast<std::uint32_t>(value) : 0xCAFE);
+    EXPECT_EQ(session.GetErrorMessage(), text);
   }
-  host_.Lack(IID_IQAddressFormat);
-  std::uint32_t result = 0;
-  EXPECT_FALSE(NewSession().ExpEval("x", 16, 0, &result));
-  EXPECT_EQ(session_->GetErrorMessage(), "failed");
 }
 
 TEST_F(SessionTest, AnExpressionIsTriedTwiceAndExplainedByItsOwnService) {

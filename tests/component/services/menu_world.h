@@ -9,8 +9,7 @@
 namespace pvw::test {
 
 inline constexpr std::uint32_t kMenu = 10, kEmptyMenu = 11, kDeepMenu = 12;
-inline constexpr std::uint32_t kToolbar = 20, kToolbarOfVersion2 = 21, kCutToolbar = 22,
-                               kHeadlessToolbar = 23;
+inline constexpr std::uint32_t kToolbar = 20, kCutToolbar = 22, kHeadlessToolbar = 23;
 inline constexpr std::uint32_t kKeys = 30;
 
 inline constexpr platform::MenuItemResource kInnermost[] = {{"C", 30003}};
@@ -23,11 +22,10 @@ inline constexpr platform::MenuItemResource kEdges[] = {{"below", 28671}, {"firs
 inline constexpr platform::MenuResource kMenus[] = {{kMenu, kEdges}, {kEmptyMenu, {}}, {kDeepMenu, kOuter}};
 
 inline constexpr std::uint16_t kButtons[] = {1, 16, 15, 4, 32817, 0, 5, 32826};
-inline constexpr std::uint16_t kVersion2[] = {2, 16, 15, 1, 32817};
 inline constexpr std::uint16_t kCut[] = {1, 16, 15, 9, 32817, 32826};
 inline constexpr std::uint16_t kNoHead[] = {1, 16};
 inline constexpr platform::ToolbarResource kToolbars[] = {
-    {kToolbar, kButtons}, {kToolbarOfVersion2, kVersion2}, {kCutToolbar, kCut}, {kHeadlessToolbar, kNoHead}};
+    {kToolbar, kButtons}, {kCutToolbar, kCut}, {kHeadlessToolbar, kNoHead}};
 
 inline constexpr platform::AcceleratorKey kKeyRows[] = {{platform::kAccelControl, 'F', 39507}, {0, 0x72, 5}};
 inline constexpr platform::AcceleratorResource kAccelerators[] = {{kKeys, kKeyRows}};

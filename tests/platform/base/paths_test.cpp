@@ -27,18 +27,15 @@ TEST_F(PathsTest, TheNameThatMatchesExactlyWinsThenTheSmallest) {
     const char* native;
   };
   const std::vector<Row> rows = {
-      {"exact", R"(d:\Dev\Port.io)", "Dev/Port.io"},
       {"of several the smallest", R"(d:\Dev\port.io)", "Dev/PORT.IO"},
       {"the drive letter in upper case", R"(D:\Dev\ONLY.io)", "Dev/only.IO"},
       {"the directory is chosen before the name in it", R"(d:\dev\only.io)", "dev/only.io"},
-      {"a directory in the wrong case", R"(d:\DEV\only.io)", "Dev/only.IO"},
       {"a missing name is kept as written", R"(d:\DEV\New.TXT)", "Dev/New.TXT"},
       {"behind a missing directory nothing is looked up", R"(d:\None\Dev\only.io)", "None/Dev/only.io"},
       {"a file in place of a directory", R"(d:\dev\LATE.io\X)", "dev/late.io/X"},
       {"letters outside ASCII", "d:\\\u00e9T\u00c9\\A", "\u00c9t\u00e9/a"},
       {"a link that leads nowhere is still the exact name", R"(d:\Dev\Dangling)", "Dev/Dangling"},
       {"dots, doubled and forward separators", R"(d:\\none\..\.\Dev/Port.io)", "Dev/Port.io"},
-      {"a separator at the end", R"(d:\Dev\)", "Dev"},
   };
   for (const Row& row : rows) EXPECT_THAT(ToNativePath(row.path), Optional(Native(row.native))) << row.name;
   EXPECT_THAT(ToNativePath(R"(d:\..\..\etc)"), Optional(Native("etc"))) << "a drive is never left";
@@ -66,7 +63,6 @@ TEST_F(PathsTest, APathWithoutARootStartsAtTheCurrentDirectory) {
   };
   const std::vector<Row> rows = {
       {"a.io", "Work/Sub/a.io", R"(d:\Work\Sub\a.io)"},
-      {R"(..\a.io)", "Work/a.io", R"(d:\Work\a.io)"},
       {R"(\a.io)", "a.io", R"(d:\a.io)"},
       {"D:a.io", "Work/Sub/a.io", R"(d:\Work\Sub\a.io)"},
       {"d:", "Work/Sub", R"(d:\Work\Sub)"},
@@ -77,11 +73,8 @@ TEST_F(PathsTest, APathWithoutARootStartsAtTheCurrentDirectory) {
     EXPECT_THAT(ToNativePath(row.path), Optional(Native(row.native))) << row.path;
     EXPECT_THAT(FullPath(row.path), Optional(Eq(row.full))) << row.path;
   }
-}
-
-TEST_F(PathsTest, ACurrentDirectoryThatCannotBeWrittenStillServesNativeNames) {
   Enter("back\\slash");
-  EXPECT_EQ(CurrentDirectory(), std::nullopt);
+  EXPECT_EQ(CurrentDirectory(), std::nullopt) << "no path can name it";
   EXPECT_EQ(FullPath("a.io"), std::nullopt);
   EXPECT_THAT(ToNativePath("a.io"), Optional(Native("back\\slash/a.io")));
 }
@@ -96,7 +89,6 @@ TEST_F(PathsTest, TheLongestRootNamesTheDrive) {
     std::string path;
   };
   const std::vector<Row> rows = {
-      {"under the root of d:", Native("a/B.io"), R"(d:\a\B.io)"},
       {"under the root of e:, which lies in that of d:", Native("in/deep/x"), R"(e:\x)"},
       {"a root itself", Native("in/deep"), "e:\\"},
       {"a name that only begins like a root", Native("in/deeper"), R"(d:\in\deeper)"},
@@ -129,35 +121,19 @@ TEST_F(PathsTest, NamesGoThroughThePage) {
 }
 
 TEST(FullPathTest, IsLexical) {
-  struct Row {
-    const char* path;
-    const char* full;
-  };
-  const std::vector<Row> rows = {
-      {R"(c:\a\b.txt)", R"(c:\a\b.txt)"},
-      {R"(C:\A)", R"(C:\A)"},
-      {R"(c:\)", R"(c:\)"},
+  const std::pair<const char*, const char*> rows[] = {
       {R"(c:\\)", R"(c:\)"},
-      {R"(c:\a\)", R"(c:\a\)"},
-      {R"(c:\a\\b)", R"(c:\a\b)"},
       {R"(c:/a/b/)", R"(c:\a\b\)"},
-      {R"(c:\a\.\b)", R"(c:\a\b)"},
       {R"(c:\a\..\b)", R"(c:\b)"},
-      {R"(c:\a\..)", R"(c:\)"},
       {R"(c:\a\..\)", R"(c:\)"},
-      {R"(c:\..\..\a)", R"(c:\a)"},
       {R"(c:\a.\b. .\c...)", R"(c:\a\b\c)"},
-      {R"(c:\a\...\b)", R"(c:\a\b)"},
       {R"(c:\.a\..b)", R"(c:\.a\..b)"},
       {R"(q:x\..\y)", R"(q:\y)"},
-      {R"(\\server\share\a\..\b)", R"(\\server\share\b)"},
       {R"(\\server\share\..\..\b)", R"(\\server\share\b)"},
-      {R"(\\server\\share\)", R"(\\server\share\)"},
       {R"(//server/share/a)", R"(\\server\share\a)"},
       {R"(\\server)", R"(\\server)"},
-      {R"(\\)", R"(\\)"},
   };
-  for (const Row& row : rows) EXPECT_THAT(FullPath(row.path), Optional(Eq(row.full))) << row.path;
+  for (const auto& [path, full] : rows) EXPECT_THAT(FullPath(path), Optional(Eq(full))) << path;
   EXPECT_EQ(FullPath(""), std::nullopt);
   EXPECT_EQ(FullPath("c:\\a\0b"s), std::nullopt);
   const std::string longest = "c:\\" + std::string(256, 'a');

@@ -1,46 +1,25 @@
 // What the tests of this folder share: a directory of their own, and settings of the process put back.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
-#include <string_view>
-
-#include "gtest/gtest.h"
-#include "platform/base/paths.h"
-#include "platform/base/text.h"
+#include "tests/support/scopes.h"
+#include "tests/support/temp_dir.h"
 
 namespace platform {
 
-class CodePageScope {
- public:
-  explicit CodePageScope(unsigned page) { EXPECT_TRUE(SetAnsiCodePage(page)); }
-  CodePageScope(const CodePageScope&) = delete;
-  CodePageScope& operator=(const CodePageScope&) = delete;
-  ~CodePageScope() { SetAnsiCodePage(before_); }
-
- private:
-  unsigned before_ = AnsiCodePage();
-};
+using CodePageScope = pvw::test::CodePage;
 
 // A temporary directory that is drive d: and, with `Enter`, the current directory.
 class ScratchTest : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string name = testing::TempDir() + "/platform_base_XXXXXX";
-    ASSERT_NE(mkdtemp(name.data()), nullptr);
-    root = std::filesystem::canonical(name).native();
-    SetDriveRoot('d', root);
-  }
-  void TearDown() override {
+  ScratchTest() { SetDriveRoot('d', root); }
+  ~ScratchTest() override {
     std::filesystem::current_path(before_);
     SetDriveRoot('c', "/");
     SetDriveRoot('d', "");
     SetDriveRoot('e', "");
-    std::filesystem::remove_all(root);
   }
 
   std::string Native(std::string_view name) const { return root + "/" + std::string(name); }
@@ -51,19 +30,18 @@ class ScratchTest : public testing::Test {
     std::ofstream(file, std::ios::binary) << text;
     return file.native();
   }
-  std::string MakePipe(std::string_view name) const {
-    EXPECT_EQ(mkfifo(Native(name).c_str(), 0600), 0);
-    return Native(name);
-  }
+  void MakePipe(std::string_view name) const { EXPECT_EQ(mkfifo(Native(name).c_str(), 0600), 0); }
   void Enter(std::string_view name) const {
     std::filesystem::create_directories(Native(name));
     std::filesystem::current_path(Native(name));
   }
 
-  std::string root;
-
  private:
-  std::filesystem::path before_ = std::filesystem::current_path();
+  const std::filesystem::path before_ = std::filesystem::current_path();
+  const pvw::test::TempDir dir_;
+
+ protected:
+  const std::string root = std::filesystem::canonical(dir_.Native()).native();
 };
 
 }  // namespace platform

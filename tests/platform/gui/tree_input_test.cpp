@@ -12,8 +12,15 @@ class TreeInput : public TreeStage {
  public:
   TreeInput() {
     MakeGrid();
+    Reset();
+  }
+  // A row A that is open over B and C, then D; nothing has the focus.
+  void Reset() {
+    tree.EndEdit(false);
+    tree.DeleteAllItems();
     Fill("A\n  B|1000|FF|RW\n  C\nD\n");
     tree.Expand(Item("A"), TVE_EXPAND);
+    SetFocus(0);
     Story();
   }
   // Carries out words: "click", "double", "right" and "press" with a row and a part of it; "move" by so many
@@ -52,23 +59,6 @@ void TreeInput::Act(const std::string& words) {
   }
 }
 
-TEST_F(TreeInput, EachPartOfARowHasItsHit) {
-  for (const UINT part :
-       {TVHT_ONITEMLABEL, TVHT_ONITEMICON, TVHT_ONITEMINDENT, TVHT_ONITEMBUTTON, TVHT_ONCOLUMN}) {
-    const HitTestInfo hit = tree.HitTest(At("A", part));
-    EXPECT_EQ(hit.flags, part);
-    EXPECT_EQ(NameOf(hit.item), "A");
-  }
-  EXPECT_EQ(tree.HitTest(At("D", TVHT_NOWHERE)).item, 0U);
-  EXPECT_EQ(tree.HitTest(Cell("B", 2)).column, 2);
-  EXPECT_EQ(tree.HitTest(At("D", TVHT_ONITEMBUTTON)).flags, TVHT_ONITEMINDENT) << "a row without children";
-  EXPECT_EQ(At("D", TVHT_ONITEMCHECK), (POINT{-1, -1})) << "a row without a box";
-  EXPECT_EQ(tree.HitTest({5, 5}).flags, TVHT_NOWHERE) << "the header";
-  tree.SetColumnWidth(1, 0);
-  EXPECT_EQ(tree.HitTest(At("B", TVHT_ONCOLUMN)).column, 2) << "behind a hidden column";
-}
-
-// Each story begins anew at a row A that is open over B and C, then D; nothing has the focus.
 TEST_F(TreeInput, MouseStories) {
   struct Case {
     const char *name, *acts, *story, *selected;
@@ -89,9 +79,7 @@ TEST_F(TreeInput, MouseStories) {
        "DOWN, NM_CLICK, UP, TVN_BEGINLABELEDIT 3 0 \"D\", KILLFOCUS, edit SETFOCUS", "D"},
       {"not one that brings the focus", "click D label leave forget click D label wait 5000",
        "DOWN, NM_CLICK, SETFOCUS, UP", "D"},
-      {"a click on the box toggles and selects nothing", "click A button",
-       "DOWN, NM_CLICK, SETFOCUS, TVN_ITEMEXPANDING A collapse, UP", "-"},
-      {"a double click on the box toggles once", "double A button",
+      {"a double click on the box toggles once and selects nothing", "double A button",
        "DOWN, NM_CLICK, SETFOCUS, TVN_ITEMEXPANDING A collapse, UP, DBLCLK, NM_DBLCLK, UP", "-"},
       {"a double click on a label toggles when the owner leaves it", "double A label",
        "DOWN, NM_CLICK, SETFOCUS, TVN_SELCHANGED A, UP, DBLCLK, NM_DBLCLK, TVN_ITEMEXPANDING A collapse, UP",
@@ -107,12 +95,7 @@ TEST_F(TreeInput, MouseStories) {
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
-    tree.EndEdit(false);
-    tree.DeleteAllItems();
-    Fill("A\n  B|1000|FF|RW\n  C\nD\n");
-    tree.Expand(Item("A"), TVE_EXPAND);
-    SetFocus(0);
-    Story();
+    Reset();
     Act(c.acts);
     EXPECT_EQ(Story(), c.story);
     EXPECT_EQ(NameOf(tree.GetSelectedItem()), c.selected);
@@ -120,24 +103,18 @@ TEST_F(TreeInput, MouseStories) {
   }
 }
 
-TEST_F(TreeInput, TheOwnerMayKeepADoubleClickToItself) {
-  const POINT label = At("A", TVHT_ONITEMLABEL);
-  Answer(NM_DBLCLK, 1, [&] { EXPECT_EQ(GetMessagePos(tree), label) << "the message's position"; });
-  Act("double A label");
-  EXPECT_TRUE(tree.IsExpanded(Item("A")));
-}
-
-TEST_F(TreeInput, AMessageBoxInTheClickHasTheRestOfThePress) {
+TEST_F(TreeInput, TheOwnerMayTakeOverInTheClick) {
   Answer(NM_CLICK, 0, [] { MessageBox("wait"); });
   Act("press B value move 50 wait 5000");
-  EXPECT_EQ(Story(), "DOWN, NM_CLICK, message: wait, SETFOCUS, TVN_SELCHANGED B");
-}
-
-TEST_F(TreeInput, ARowThatGoesInTheClickIsNotSelected) {
+  EXPECT_EQ(Story(), "DOWN, NM_CLICK, message: wait, SETFOCUS, TVN_SELCHANGED B")
+      << "the box has the rest of the press";
   Answer(NM_CLICK, 0, [&] { tree.DeleteItem(Item("D")); });
   Act("click D label");
-  EXPECT_EQ(Story(), "DOWN, NM_CLICK, SETFOCUS, UP");
-  EXPECT_EQ(tree.GetSelectedItem(), 0U);
+  EXPECT_EQ(Story(), "DOWN, NM_CLICK, UP");
+  EXPECT_EQ(NameOf(tree.GetSelectedItem()), "B") << "a row that is gone isn't selected";
+  Answer(NM_DBLCLK, 1);
+  Act("double A label");
+  EXPECT_TRUE(tree.IsExpanded(Item("A"))) << "a double click that the owner keeps to itself";
 }
 
 TEST_F(TreeInput, TheWindowMayGoInEachNotification) {
@@ -166,13 +143,12 @@ TEST_F(TreeInput, TheHeaderResizesReportsAndAsksForItsMenu) {
   Press({199, 5});
   EXPECT_EQ(move(219), 220);
   EXPECT_EQ(move(-400), 8) << "dragging hides no column";
-  EXPECT_EQ(move(219), 220);
   Press({219, 5}, WM_LBUTTONUP);
-  EXPECT_EQ(move(100), 220) << "the button is up";
+  EXPECT_EQ(move(219), 8) << "the button is up";
   tree.SetColumnWidth(1, 0);
-  Press({221, 5});
-  EXPECT_EQ(move(231), 230) << "a hidden column has no edge";
-  Press({231, 5}, WM_LBUTTONUP);
+  Press({9, 5});
+  EXPECT_EQ(move(209), 208) << "a hidden column has no edge";
+  Press({209, 5}, WM_LBUTTONUP);
   EXPECT_EQ(Story(), "DOWN, UP, DOWN, UP");
 
   user::DoubleClick(tree, {100, 5});
@@ -198,9 +174,7 @@ TEST_F(TreeInput, Keys) {
   const Case cases[] = {
       {"Down goes through what shows", "A", {VK_DOWN, VK_DOWN}, "-A\n  .B\n  +C<\n.F\n"},
       {"Down stays on the last row", "F", {VK_DOWN}, "-A\n  .B\n  +C\n.F<\n"},
-      {"Up stays on the first row", "B", {VK_UP, VK_UP}, "-A<\n  .B\n  +C\n.F\n"},
       {"without a selection Down goes to the first row", "-", {VK_DOWN}, "-A<\n  .B\n  +C\n.F\n"},
-      {"without a selection Up goes there too", "-", {VK_UP}, "-A<\n  .B\n  +C\n.F\n"},
       {"from a row that doesn't show Down goes there too", "E", {VK_DOWN}, "-A<\n  .B\n  +C\n.F\n"},
       {"End", "-", {VK_END}, "-A\n  .B\n  +C\n.F<\n"},
       {"Home", "F", {VK_HOME}, "-A<\n  .B\n  +C\n.F\n"},
@@ -212,13 +186,11 @@ TEST_F(TreeInput, Keys) {
        "C",
        {VK_RIGHT, VK_RIGHT},
        "-A\n  .B\n  -C\n    +D<\n.F\n"},
-      {"Right on a row without children", "B", {VK_RIGHT}, "-A\n  .B<\n  +C\n.F\n"},
       {"minus and plus", "A", {VK_SUBTRACT, VK_SUBTRACT, VK_ADD, VK_ADD}, "-A<\n  .B\n  +C\n.F\n"},
       {"the asterisk opens all below",
        "C",
        {VK_SUBTRACT, VK_MULTIPLY},
        "-A\n  .B\n  -C<\n    -D\n      .E\n.F\n"},
-      {"the asterisk on a row without children", "B", {VK_MULTIPLY}, "-A\n  .B<\n  +C\n.F\n"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
@@ -231,10 +203,7 @@ TEST_F(TreeInput, Keys) {
     EXPECT_EQ(Rows(), c.rows);
   }
   tree.DeleteAllItems();
-  for (const UINT key :
-       {VK_DOWN, VK_END, VK_NEXT, VK_LEFT, VK_RIGHT, VK_MULTIPLY, VK_F2, VK_SPACE, UINT{'A'}}) {
-    user::PressKey(key);
-  }
+  for (const UINT key : {VK_DOWN, VK_END, VK_NEXT, VK_LEFT, VK_MULTIPLY, VK_F2}) user::PressKey(key);
   EXPECT_EQ(tree.GetSelectedItem(), 0U) << "no rows";
 }
 
@@ -259,11 +228,9 @@ TEST_F(TreeInput, TheFirstLettersFindARow) {
     UINT wait;  // before
     const char *typed, *found;
   };
-  const Case cases[] = {{0, "p", "Port 1"},        {1100, "P", "port 2"},
-                        {1100, "p", "Port 1"},     {0, "ort 2", "port 2"},
-                        {0, "x", "port 2"},        {1100, "t", "Timer"},
-                        {1100, "t", "Timer"},      {1100, "\xC3\xBC", "\xC3\x9CX"},
-                        {1100, " 1", "\xC3\x9CX"}, {1100, "*", "\xC3\x9CX"}};
+  const Case cases[] = {
+      {0, "p", "Port 1"}, {1100, "P", "port 2"}, {1100, "p", "Port 1"},           {0, "ort 2", "port 2"},
+      {0, "x", "port 2"}, {1100, "t", "Timer"},  {1100, "\xC3\xBC", "\xC3\x9CX"}, {1100, "*", "\xC3\x9CX"}};
   for (const Case& c : cases) {
     display.Advance(c.wait);
     user::TypeText(c.typed);

@@ -36,16 +36,10 @@ class HeadlessStage final : public Stage {
     SetDisplay(nullptr);
   }
 
-  void Press(CWnd& window, POINT at) override { Mouse(window, WM_LBUTTONDOWN, at); }
-  void Release(CWnd& window, POINT at) override { Mouse(window, WM_LBUTTONUP, at); }
-  void KeyDown(UINT key, UINT modifiers) override {
-    gui::Input({0, WM_KEYDOWN, key, 0, nullptr, modifiers});
-    m_display.Settle();
-  }
-  void KeyUp(UINT key, UINT modifiers) override {
-    gui::Input({0, WM_KEYUP, key, 0, nullptr, modifiers});
-    m_display.Settle();
-  }
+  void Press(CWnd& window, POINT at) override { Do({window.GetHandle(), WM_LBUTTONDOWN, 0, PointParam(at)}); }
+  void Release(CWnd& window, POINT at) override { Do({window.GetHandle(), WM_LBUTTONUP, 0, PointParam(at)}); }
+  void KeyDown(UINT key, UINT modifiers) override { Do({0, WM_KEYDOWN, key, 0, nullptr, modifiers}); }
+  void KeyUp(UINT key, UINT modifiers) override { Do({0, WM_KEYUP, key, 0, nullptr, modifiers}); }
   void Type(std::string_view text) override {
     user::TypeText(text);
     m_display.Settle();
@@ -62,8 +56,8 @@ class HeadlessStage final : public Stage {
   void InNextBox(std::function<void()> then) override { m_in_box = std::move(then); }
 
  private:
-  void Mouse(CWnd& window, UINT message, POINT at) {
-    gui::Input({window.GetHandle(), message, 0, PointParam(at)});
+  void Do(const MSG& input) {
+    gui::Input(input);
     m_display.Settle();
   }
 

@@ -19,24 +19,11 @@ using testing::ElementsAre;
 
 TEST(RecordingDCTest, EachOperationIsALineAndWhatLiesOutsideTheClipIsNone) {
   RecordingDC dc({0, 0, 100, 50});
-  const std::uint32_t pixels[2 * 3] = {};
-  CImageList images;
-  images.Create(1, 3, 2, pixels, 0xFFFFFF);
-  dc.Fill({0, 0, 100, 17}, 0xFFFFFF);
   dc.Text({3, 0, 97, 17}, "say \"a\\b\"\n", 0x0000FF, {}, TextAlign::Left);
-  dc.Dots({8, 9}, {19, 9});
-  dc.Dots({8, 9}, {8, 17});
-  dc.Image({20, 0}, images, 1);
-  dc.ExpandBox({4, 4, 13, 13}, true);
-  dc.CheckBox({14, 2, 27, 15}, false);
-  dc.Header({0, 0, 50, 19}, "Name", {});
   dc.FocusRect({0, 0, 9, 9});
   dc.Fill({0, 50, 100, 67}, 0);
   dc.Text({100, 0, 120, 17}, "gone", 0, {}, TextAlign::Left);
-  EXPECT_THAT(dc.GetLines(),
-              ElementsAre("fill 0,0,100,17 FFFFFF", "text 3,0,97,17 0000FF \"say \\\"a\\\\b\\\"\\n\"",
-                          "dots 8,9,19,10", "dots 8,9,9,17", "image 20,0,21,3 \"1\"", "box 4,4,13,13 \"-\"",
-                          "check 14,2,27,15 \"o\"", "header 0,0,50,19 \"Name\"", "focus 0,0,9,9"));
+  EXPECT_THAT(dc.GetLines(), ElementsAre("text 3,0,97,17 0000FF \"say \\\"a\\\\b\\\"\\n\"", "focus 0,0,9,9"));
 }
 
 TEST(TextMetricsTest, AFontIsAsLargeAsItsRuleSays) {
@@ -50,19 +37,11 @@ TEST(TextMetricsTest, AFontIsAsLargeAsItsRuleSays) {
       {"11 points", {0, 0, 110, "Courier New"}, {18, 17}},
       {"height and width", {11, 8, 0, "Courier New"}, {16, 11}},
       {"height alone", {11, 0, 0, "Courier New"}, {12, 11}},
-      {"an em of 16", {-16, 0, 0, "Arial"}, {20, 18}},
       {"a size out of a broken file is held", {2147483647, 0, 0, "Arial"}, {10000, 10000}},
-      {"and so are points", {0, 0, 2147483647, "Arial"}, {1600, 1500}},
       {"a height below all others", {-2147483647 - 1, 0, 0, "Arial"}, {12000, 11250}},
   };
   for (const Row& row : rows) EXPECT_EQ(MeasureText(row.font, "io"), row.of_two) << row.name;
   EXPECT_EQ(MeasureText({}, "\xC3\xA4"), (SIZE{6, 13})) << "a character of two bytes is one column";
-}
-
-std::string Read(const std::string& path) {
-  std::ostringstream text;
-  text << std::ifstream(path, std::ios::binary).rdbuf();
-  return text.str();
 }
 
 TEST(TextPrinterTest, PagesAreTextWithAFormFeedBetweenThem) {
@@ -77,11 +56,12 @@ TEST(TextPrinterTest, PagesAreTextWithAFormFeedBetweenThem) {
   printer.TextOut({0, 0}, "Name");
   printer.EndPage();
   printer.EndDocument();
-  EXPECT_EQ(Read(path), "Name\nPORT\n\fName\n");
+  std::ostringstream text;
+  text << std::ifstream(path, std::ios::binary).rdbuf();
+  EXPECT_EQ(text.str(), "Name\nPORT\n\fName\n");
   std::filesystem::remove(path);
 
-  TextPrinter nowhere(testing::TempDir() + "no such directory/pages.txt");
-  EXPECT_FALSE(nowhere.StartDocument("io"));
+  EXPECT_FALSE(TextPrinter(testing::TempDir() + "no such directory/pages.txt").StartDocument("io"));
 }
 
 }  // namespace

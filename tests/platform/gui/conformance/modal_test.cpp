@@ -29,17 +29,17 @@ class Modals : public Scenario {
  protected:
   Modals() {
     Add(behind, 1);
+    Add(other, 2);
     Focus(behind);
   }
-  ~Modals() override { behind.DestroyWindow(); }
   Traced<CEdit> behind{"behind"};
+  Traced<CEdit> other{"other"};
 };
 
 TEST_F(Modals, ADialogOpensTakesTheFocusAndGivesItBackBeforeItGoes) {
   CNameDialog dialog("dialog");
   dialog.text = "PORT";
   stage->InNextDialog({[&](CDialog&) {
-                         EXPECT_EQ(dialog.edit.GetText(), "PORT");
                          EXPECT_EQ(dialog.edit.GetSelEnd() - dialog.edit.GetSelStart(), 4u);
                          stage->Type("B");
                        },
@@ -49,11 +49,9 @@ TEST_F(Modals, ADialogOpensTakesTheFocusAndGivesItBackBeforeItGoes) {
                          stage->Click(dialog.ok);
                        }});
   EXPECT_EQ(dialog.DoModal(), static_cast<int>(IDOK));
-  stage->Settle();
   EXPECT_EQ(dialog.text, "B");
   EXPECT_TRUE(dialog.all);
-  EXPECT_EQ(GetFocus(), behind.GetHandle());
-  EXPECT_EQ(Story(),
+  EXPECT_EQ(Settled(),
             "dialog CREATE\nedit CREATE\nok CREATE\n"
             "dialog EN_UPDATE 11\ndialog EN_CHANGE 11\n"
             "dialog: Name\nbehind KILLFOCUS\nedit SETFOCUS\n"
@@ -63,34 +61,18 @@ TEST_F(Modals, ADialogOpensTakesTheFocusAndGivesItBackBeforeItGoes) {
             "ok KILLFOCUS\nbehind SETFOCUS\ndialog DESTROY\nedit DESTROY\nok DESTROY\n");
 }
 
-TEST_F(Modals, WhatIsBehindGetsNoInput) {
-  CNameDialog dialog("dialog");
-  stage->InNextDialog({[&](CDialog&) {
-                         Story();
-                         stage->Click(behind);
-                         EXPECT_EQ(Story(), "");
-                         EXPECT_EQ(GetFocus(), dialog.edit.GetHandle());
-                       },
-                       [&](CDialog& open) { open.EndDialog(7); }});
-  EXPECT_EQ(dialog.DoModal(), 7);
-}
-
 TEST_F(Modals, AWishForTheFocusBehindIsGrantedAtTheEnd) {
-  Traced<CEdit> other("other");
-  Add(other, 2);
   CNameDialog dialog("dialog");
   stage->InNextDialog({[&](CDialog& open) {
     Story();
+    stage->Click(behind);
     SetFocus(other.GetHandle());
-    EXPECT_EQ(Story(), "");
+    EXPECT_EQ(Story(), "") << "what is behind gets no input";
     EXPECT_EQ(GetFocus(), dialog.edit.GetHandle());
     open.EndDialog(IDOK);
   }});
   dialog.DoModal();
-  stage->Settle();
-  EXPECT_EQ(GetFocus(), other.GetHandle());
-  EXPECT_EQ(Story(), "edit KILLFOCUS\nother SETFOCUS\ndialog DESTROY\nedit DESTROY\nok DESTROY\n");
-  other.DestroyWindow();
+  EXPECT_EQ(Settled(), "edit KILLFOCUS\nother SETFOCUS\ndialog DESTROY\nedit DESTROY\nok DESTROY\n");
 }
 
 TEST_F(Modals, AControlChosenInTheInitHasTheFocusWhenTheDialogShowsAndNotBefore) {
@@ -103,8 +85,7 @@ TEST_F(Modals, AControlChosenInTheInitHasTheFocusWhenTheDialogShowsAndNotBefore)
   };
   stage->InNextDialog({[&](CDialog& open) { open.EndDialog(IDOK); }});
   dialog.DoModal();
-  stage->Settle();
-  EXPECT_EQ(Story(),
+  EXPECT_EQ(Settled(),
             "message: Early\nbehind KILLFOCUS\ninit done\ndialog: Name\nok SETFOCUS\n"
             "ok KILLFOCUS\nbehind SETFOCUS\ndialog DESTROY\nedit DESTROY\nok DESTROY\n");
 }
@@ -115,39 +96,34 @@ TEST_F(Modals, ADialogThatIsEndedInItsInitNeverShows) {
   EXPECT_EQ(dialog.DoModal(), 3);
   dialog.in_init = [&] { dialog.DestroyWindow(); };
   EXPECT_EQ(dialog.DoModal(), static_cast<int>(IDCANCEL));
-  stage->Settle();
-  EXPECT_EQ(Story().find("dialog: "), std::string::npos);
+  EXPECT_EQ(Settled().find("dialog: "), std::string::npos);
   EXPECT_EQ(GetFocus(), behind.GetHandle());
+  dialog.in_init = nullptr;
+  stage->InNextDialog({[](CDialog& open) { open.EndDialog(4); }});
+  EXPECT_EQ(dialog.DoModal(), 4) << "it can run again";
+  EXPECT_EQ(CDialog(99, nullptr).DoModal(), -1) << "there is no template";
 }
 
 TEST_F(Modals, ADialogInADialogGivesTheFocusBackToTheOuter) {
-  Traced<CEdit> other("other");
-  Add(other, 2);
   CNameDialog outer("outer");
-  CNameDialog inner("inner");
-  inner.edit.name = "inner edit";
-  inner.ok.name = "inner ok";
+  CDialog inner(kEmptyDialog, nullptr);
   stage->InNextDialog({[&](CDialog&) {
-                         Story();
-                         inner.DoModal();
-                       },
-                       [&](CDialog& open) {
-                         EXPECT_EQ(GetFocus(), outer.edit.GetHandle());
-                         open.EndDialog(IDOK);
-                       }});
+    Story();
+    inner.DoModal();
+    EXPECT_EQ(GetFocus(), outer.edit.GetHandle());
+    outer.EndDialog(IDOK);
+  }});
   stage->InNextDialog({[&](CDialog& open) {
+    EXPECT_EQ(GetFocus(), open.GetHandle()) << "it has no controls";
     stage->Click(outer.ok);
     SetFocus(other.GetHandle());
-    open.EndDialog(IDOK);
+    stage->Key(VK_TAB);
+    stage->Key(VK_ESCAPE);
   }});
   outer.DoModal();
-  stage->Settle();
-  EXPECT_EQ(
-      Story(),
-      "inner CREATE\ninner edit CREATE\ninner ok CREATE\ndialog: Name\nedit KILLFOCUS\ninner edit SETFOCUS\n"
-      "inner edit KILLFOCUS\nedit SETFOCUS\ninner DESTROY\ninner edit DESTROY\ninner ok DESTROY\n"
-      "edit KILLFOCUS\nother SETFOCUS\nouter DESTROY\nedit DESTROY\nok DESTROY\n");
-  other.DestroyWindow();
+  EXPECT_EQ(Settled(),
+            "dialog: Empty\nedit KILLFOCUS\nedit SETFOCUS\n"
+            "edit KILLFOCUS\nother SETFOCUS\nouter DESTROY\nedit DESTROY\nok DESTROY\n");
 }
 
 TEST_F(Modals, AnOuterDialogMayBeToldToEndBeforeTheInner) {
@@ -163,8 +139,7 @@ TEST_F(Modals, AnOuterDialogMayBeToldToEndBeforeTheInner) {
                          open.EndDialog(6);
                        }});
   Note("outer gave " + std::to_string(outer.DoModal()));
-  stage->Settle();
-  const std::string story = Story();
+  const std::string story = Settled();
   EXPECT_NE(story.find("inner goes on\n"), std::string::npos);
   EXPECT_LT(story.find("inner gave 6\n"), story.find("outer gave 5\n"));
   EXPECT_EQ(GetFocus(), behind.GetHandle());
@@ -172,47 +147,30 @@ TEST_F(Modals, AnOuterDialogMayBeToldToEndBeforeTheInner) {
 
 TEST_F(Modals, ADialogThatIsDestroyedWhileItRunsIsOver) {
   CNameDialog dialog("dialog");
-  dialog.On(WM_COMMAND, [&] {
+  dialog.During(WM_COMMAND, [&] {
     if (!dialog.edit.GetText().empty()) dialog.DestroyWindow();
-    return 0;
   });
   stage->InNextDialog({[&](CDialog&) {
     Story();
     stage->Type("x");
   }});
   EXPECT_EQ(dialog.DoModal(), static_cast<int>(IDCANCEL));
-  stage->Settle();
-  EXPECT_EQ(Story(),
+  EXPECT_EQ(Settled(),
             "edit KEYDOWN X\nedit CHAR x\ndialog EN_UPDATE 11\n"
             "dialog DESTROY\nedit KILLFOCUS\nedit DESTROY\nok DESTROY\nbehind SETFOCUS\n");
-  EXPECT_EQ(GetFocus(), behind.GetHandle());
-}
-
-TEST_F(Modals, ADialogCanRunAgain) {
-  CNameDialog dialog("dialog");
-  for (int round = 1; round <= 2; ++round) {
-    stage->InNextDialog({[&](CDialog& open) { open.EndDialog(round); }});
-    EXPECT_EQ(dialog.DoModal(), round);
-  }
-  CDialog none(99, nullptr);
-  EXPECT_EQ(none.DoModal(), -1);
 }
 
 TEST_F(Modals, TheReleaseOfAPressThatOpenedSomethingIsLost) {
   Traced<CButton> button("button");
-  Add(button, 2, "Press");
-  behind.On(WM_KILLFOCUS, [] {
-    MessageBox("Too late");
-    return 0;
-  });
+  Add(button, 3, "Press");
+  behind.During(WM_KILLFOCUS, [] { MessageBox("Too late"); });
   stage->Press(button, {3, 3});
   behind.handlers.clear();
   stage->Release(button, {3, 3});
   EXPECT_EQ(Story(), "button DOWN\nbehind KILLFOCUS\nmessage: Too late\nbutton KILLFOCUS\nbutton SETFOCUS\n");
 
   stage->Click(button);
-  EXPECT_EQ(Story(), "button DOWN\nbutton UP\nmain BN_CLICKED 2\n");
-  button.DestroyWindow();
+  EXPECT_EQ(Story(), "button DOWN\nbutton UP\nmain BN_CLICKED 3\n");
 }
 
 TEST_F(Modals, TheReleaseOfAKeyThatClosedADialogReachesNobody) {
@@ -223,23 +181,8 @@ TEST_F(Modals, TheReleaseOfAKeyThatClosedADialogReachesNobody) {
   }});
   dialog.DoModal();
   stage->KeyUp(VK_ESCAPE, 0);
-  stage->Settle();
-  EXPECT_EQ(Story(),
+  EXPECT_EQ(Settled(),
             "dialog COMMAND 2\nedit KILLFOCUS\nbehind SETFOCUS\ndialog DESTROY\nedit DESTROY\nok DESTROY\n");
-}
-
-TEST_F(Modals, ABoxTakesTheFocusWhileItShowsWhereverItIsAskedFor) {
-  behind.On(WM_USER, [&] {
-    behind.handlers.clear();
-    MessageBox("Error saving file", MB_ICONEXCLAMATION, "IO");
-    return 0;
-  });
-  stage->InNextBox([] { Note("shows"); });
-  behind.Send(WM_USER);
-  stage->Settle();
-  EXPECT_EQ(Story(),
-            "behind USER+0\nmessage [exclamation] \"IO\": Error saving file\nbehind KILLFOCUS\nshows\nbehind "
-            "SETFOCUS\n");
 }
 
 }  // namespace

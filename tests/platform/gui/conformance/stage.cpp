@@ -96,15 +96,13 @@ Scenario::Scenario() {
   main.Create({WS_POPUP | WS_VISIBLE, 0, {0, 0, 300, 200}, 0, 0, "Main"});
   SetMainWindow(main.GetHandle());
   stage->ComeBack();
-  stage->Settle();
-  Story();
+  Settled();
 }
 
 Scenario::~Scenario() {
   main.DestroyWindow();
   SetMainWindow(0);
-  stage->Settle();
-  Story();
+  Settled();
 }
 
 void Scenario::Add(CWnd& control, UINT id, std::string text, UINT style) {
@@ -116,14 +114,12 @@ void Scenario::Add(CWnd& control, UINT id, std::string text, UINT style) {
   params.text = std::move(text);
   m_next_top += 26;
   ASSERT_TRUE(control.Create(params));
-  stage->Settle();
-  Story();
+  Settled();
 }
 
 void Scenario::Focus(CWnd& control) {
   SetFocus(control.GetHandle());
-  stage->Settle();
-  Story();
+  Settled();
 }
 
 }  // namespace platform::conformance

@@ -65,13 +65,14 @@ std::unique_ptr<Stage> MakeStage();
 // Notes the message as "NAME MESSAGE …", if it is one that all displays send alike.
 void NoteMessage(const std::string& name, const MSG& msg);
 
-// A window that notes the messages it gets, before it handles them.
+// A window that notes the messages it gets, before it handles them, and goes with its object.
 template <typename Base>
 class Traced : public Base {
  public:
   template <typename... Arguments>
   explicit Traced(std::string window_name, Arguments&&... arguments)
       : Base(std::forward<Arguments>(arguments)...), name(std::move(window_name)) {}
+  ~Traced() override { this->DestroyWindow(); }
 
   LRESULT WindowProc(const MSG& msg) override {
     NoteMessage(name, msg);
@@ -85,6 +86,11 @@ class Traced : public Base {
 
   // What the window does with a message ahead of the rest; a result of 0 lets the rest go on.
   void On(UINT message, std::function<LRESULT()> call) { handlers[message] = std::move(call); }
+
+  // The same for something that happens and lets the rest go on.
+  void During(UINT message, std::function<void()> act) {
+    On(message, [act = std::move(act)] { return act(), LRESULT{0}; });
+  }
 
   std::string name;
   std::map<UINT, std::function<LRESULT()>> handlers;
@@ -100,6 +106,11 @@ class Scenario : public testing::Test {
   void Add(CWnd& control, UINT id, std::string text = {}, UINT style = 0);
   // Gives the control the focus and forgets the story of it.
   void Focus(CWnd& control);
+  // The story once everything has happened that waits to.
+  std::string Settled() {
+    stage->Settle();
+    return Story();
+  }
 
   std::unique_ptr<Stage> stage = MakeStage();
   Traced<CWnd> main{"main"};
