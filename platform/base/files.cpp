@@ -184,7 +184,8 @@ bool WriteWholeFile(std::string_view path, std::string_view bytes) {
   const std::string native = BehindLinks(*named);
   struct stat before {};
   const bool exists = stat(native.c_str(), &before) == 0;
-  if (exists && (!S_ISREG(before.st_mode) || (before.st_mode & 0222) == 0 || access(native.c_str(), W_OK) != 0)) {
+  if (exists &&
+      (!S_ISREG(before.st_mode) || (before.st_mode & 0222) == 0 || access(native.c_str(), W_OK) != 0)) {
     return false;
   }
   const std::size_t slash = native.rfind('/');

@@ -1,0 +1,190 @@
+// Help on a control of a dialog and for a pane, through help files beside a component and engines of both
+// kinds.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "frame/controls/dlg_with_help.h"
+#include "frame/controls/html_help.h"
+#include "platform/base/paths.h"
+#include "platform/base/system.h"
+#include "tests/frame/controls/modules/help_module.h"
+#include "tests/support/temp_dir.h"
+
+namespace pvw {
+namespace {
+
+using platform::HELPINFO;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::uint32_t kDialog = 9003;
+constexpr std::uint32_t kControl = 9001;
+constexpr platform::HWND kItem = 77;
+
+// A component "c:\...\PvwIO.dll" is loaded, and its file is the system's help engine too.
+class HelpTest : public testing::Test {
+ protected:
+  HelpTest() : before_(platform::System()) {
+    std::filesystem::copy_file(BINARY_DIR "/test_modules/help_module.so", dir.Native("PvwIO.dll"));
+    loaded_ = platform::LoadLibrary(dir.Path("PvwIO.dll"));
+    component = platform::GetProc<test::HelpModule*()>(loaded_, "GetHelpModule")();
+    component->app.m_helpFilePath = "c:\\own.chm";
+    platform::System().help_engine = dir.Path("PvwIO.dll");
+    platform::System().system_directory = dir.Path();
+    ForgetEngine();
+  }
+  ~HelpTest() override {
+    ForgetEngine();
+    platform::System() = before_;
+    platform::FreeLibrary(loaded_);
+  }
+  static void ForgetEngine() {
+    platform::FreeLibrary(g_hHtmlHelpLibrary);
+    g_hHtmlHelpLibrary = nullptr;
+    g_pHtmlHelpEntry = nullptr;
+    g_bHtmlHelpUnavailable = false;
+  }
+
+  static bool Ask(std::uint32_t control = kControl, std::uint32_t type = platform::HELPINFO_WINDOW) {
+    CDlgWithHelp dialog(kDialog, nullptr);
+    return dialog.OnHelpInfo({type, control, kItem});
+  }
+  const std::vector<std::string>& Calls() const { return component->calls; }
+
+  const test::TempDir dir;
+  test::HelpModule* component;
+
+ private:
+  const platform::SystemRecord before_;
+  platform::HMODULE loaded_;
+};
+
+// 0xA32B2329 is 2737513257: 0x80000000, dialog 9003 in the upper half, control 9001 in the lower.
+
+TEST_F(HelpTest, AsksTheEngineForTheControlsPopup) {
+  dir.Write("PvwIO.chm", "");
+  dir.Write("PvwIO.hlp", "");
+  platform::System().version_major = 5;
+  EXPECT_TRUE(Ask());
+  EXPECT_THAT(Calls(),
+              ElementsAre("html 77 " + dir.Path("PvwIO.chm") + "::/CONTEXT.TXT 17: 9001 2737513257 0"))
+      << "a .chm file comes before a .hlp file";
+
+  component->result = 0;
+  testing::internal::CaptureStderr();
+  EXPECT_FALSE(Ask()) << "the engine shows nothing";
+#ifdef NDEBUG
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+#else
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "HtmlHelp: nDialogID = 9003, nControlID = 9001.\n");
+#endif
+}
+
+TEST_F(HelpTest, AnswersForNoRequestThatItCantServe) {
+  EXPECT_FALSE(Ask()) << "there is no help file";
+  dir.Write("PvwIO.chm", "");
+  for (const std::uint32_t control : {0u, 0xFFFFFFFFu})
+    EXPECT_FALSE(Ask(control)) << "no control: " << control;
+  dir.Write("PvwIO.hlp", "");
+  EXPECT_TRUE(Ask(kControl, 2)) << "a menu item: it is answered for, without help and without the other file";
+  EXPECT_THAT(Calls(), IsEmpty());
+}
+
+TEST_F(HelpTest, AnOldSystemShowsTheOldKindOfFile) {
+  dir.Write("PvwIO.hlp", "");
+  struct Row {
+    const char* name;
+    std::uint32_t major, minor;
+    bool shown;
+  };
+  const Row rows[] = {{"the last system with the engine", 5, 2, true},
+                      {"the first without it", 6, 0, false},
+                      {"a later one", 6, 1, false}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    platform::System().version_major = row.major;
+    platform::System().version_minor = row.minor;
+    component->calls.clear();
+    EXPECT_TRUE(Ask());
+    const std::string hlp = dir.Path("PvwIO.hlp");
+    if (row.shown) {
+      EXPECT_THAT(Calls(), ElementsAre("win 0 " + hlp + " 8 2737513257"));
+      EXPECT_EQ(component->application_path, hlp);
+    } else {
+      EXPECT_THAT(Calls(), IsEmpty());
+    }
+    EXPECT_EQ(component->app.m_helpFilePath, "c:\\own.chm") << "put back";
+  }
+  platform::System().version_major = 5;
+  platform::System().help_engine.clear();
+  EXPECT_TRUE(Ask()) << "also where the machine has no engine";
+}
+
+TEST_F(HelpTest, TakesTheNamedEngineElseTheUsualOneAndElseNoneEver) {
+  const auto call = [] { return CallHtmlHelp(5, "c:\\a.chm", 15, 3); };
+  component->result = 9;
+  EXPECT_EQ(call(), 9u);
+  EXPECT_THAT(Calls(), ElementsAre("html 5 c:\\a.chm 15: 3"));
+
+  ForgetEngine();
+  platform::System().help_engine = dir.Path("missing.dll");
+  std::filesystem::rename(dir.Native("PvwIO.dll"), dir.Native("hhctrl.ocx"));
+  EXPECT_EQ(call(), 9u) << "the usual one lies among the system's own";
+
+  ForgetEngine();
+  platform::System().help_engine = std::string(260, 'x');
+  EXPECT_EQ(call(), 9u) << "a name too long to read";
+
+  ForgetEngine();
+  std::filesystem::rename(dir.Native("hhctrl.ocx"), dir.Native("elsewhere.dll"));
+  platform::System().help_engine.clear();
+  EXPECT_EQ(call(), 0u);
+  platform::System().help_engine = dir.Path("elsewhere.dll");
+  EXPECT_EQ(call(), 0u) << "it isn't looked for again";
+
+  ForgetEngine();
+  platform::System().help_engine =
+      platform::FromNativePath(BINARY_DIR "/test_modules/engine_without_entry.so").value();
+  EXPECT_EQ(call(), 0u) << "without its entry point";
+  EXPECT_NE(g_hHtmlHelpLibrary, nullptr);
+  EXPECT_TRUE(g_bHtmlHelpUnavailable);
+  EXPECT_EQ(call(), 0u);
+}
+
+TEST_F(HelpTest, ATopicFollowsThePathOfTheApplicationsHelpFile) {
+  EXPECT_EQ(ShowHelpTopic(5, "::/a.htm", 15, 3), 1u);
+  EXPECT_EQ(ShowHelpTopic(5, nullptr, 15, 0), 1u);
+  component->app.m_helpFilePath.clear();
+  EXPECT_EQ(ShowHelpTopic(5, nullptr, 15, 0), 0u) << "no path, no call";
+  EXPECT_THAT(Calls(), ElementsAre("html 5 c:\\own.chm::/a.htm 15: 3", "html 5 c:\\own.chm 15: 0"));
+}
+
+// A control that hasn't its own help hands the request up to the dialog.
+TEST_F(HelpTest, TheDialogAnswersForItsControls) {
+  dir.Write("PvwIO.chm", "");
+  CDlgWithHelp dialog(kDialog, nullptr);
+  platform::CreateParams params;
+  params.style = platform::WS_POPUP;
+  ASSERT_TRUE(dialog.Create(params));
+  params.style = platform::WS_CHILD;
+  params.parent = dialog.GetHandle();
+  params.id = kControl;
+  platform::CWnd control;
+  ASSERT_TRUE(control.Create(params));
+
+  const HELPINFO info{platform::HELPINFO_WINDOW, kControl, control.GetHandle()};
+  const auto request = [&] {
+    return control.Send(platform::WM_HELP, 0, reinterpret_cast<platform::LPARAM>(&info));
+  };
+  EXPECT_NE(request(), 0);
+  EXPECT_EQ(Calls().size(), 1u);
+  component->result = 0;
+  EXPECT_EQ(request(), 0) << "not served: the system goes on";
+  dialog.DestroyWindow();
+}
+
+}  // namespace
+}  // namespace pvw
