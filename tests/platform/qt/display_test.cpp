@@ -16,6 +16,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/base/app.h"
 #include "platform/base/paths.h"
 #include "platform/gui/common_dialogs.h"
 #include "platform/gui/controls.h"
@@ -45,12 +46,14 @@ class QtDisplayTest : public testing::Test {
     display.SetNativeDialogs(false);
     main.Create({.style = WS_POPUP | WS_VISIBLE, .rect = {0, 0, 300, 200}});
     edit.Create({.rect = {5, 5, 200, 29}, .parent = main.GetHandle(), .id = 1});
+    SetMainWindow(main.GetHandle());
     QtDisplay::WidgetOf(main)->activateWindow();
     SetFocus(edit.GetHandle());
     user::Settle();
   }
   ~QtDisplayTest() override {
     main.DestroyWindow();
+    SetMainWindow(0);
     user::Settle();
     SetDisplay(nullptr);
   }
@@ -99,7 +102,6 @@ TEST_F(QtDisplayTest, AFileDialogGivesADrivePathWithItsExtensionOrNothing) {
   const auto end = [&](bool accept) {
     Later([&filters, accept] {
       auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-      std::fprintf(stderr, "DBG %p %p %d\n", (void*)dialog, (void*)QApplication::activeModalWidget(), accept);
       ASSERT_NE(dialog, nullptr);
       filters = dialog->nameFilters();
       QTest::keyClick(dialog, accept ? Qt::Key_Return : Qt::Key_Escape);
@@ -111,7 +113,6 @@ TEST_F(QtDisplayTest, AFileDialogGivesADrivePathWithItsExtensionOrNothing) {
   end(false);
   EXPECT_EQ(RunFileDialog(request), std::nullopt);
   user::Settle();
-  fprintf(stderr,"DBG act %p state %d modal %p foc %d edit %d\n",(void*)QApplication::activeWindow(),(int)QApplication::applicationState(),(void*)QApplication::activeModalWidget(),(int)GetFocus(),(int)edit.GetHandle());
   EXPECT_EQ(QApplication::focusWidget(), QtDisplay::WidgetOf(edit)) << "and the focus is back";
 }
 
@@ -214,7 +215,8 @@ TEST_F(QtDisplayTest, ControlsOfFourteenUnitsCutNoText) {
   const int height = (14 * GetDisplay()->TextExtent({}, "X").cy + 4) / 8;
   button.Create({.rect = {0, 0, 90, height}, .parent = main.GetHandle(), .text = "Cancel"});
   combo.Create({.rect = {0, 0, 90, height}, .parent = main.GetHandle()});
-  for (const CWnd* control : {static_cast<CWnd*>(&button), static_cast<CWnd*>(&combo), static_cast<CWnd*>(&edit)}) {
+  for (const CWnd* control :
+       {static_cast<CWnd*>(&button), static_cast<CWnd*>(&combo), static_cast<CWnd*>(&edit)}) {
     EXPECT_LE(QtDisplay::WidgetOf(*control)->minimumSizeHint().height(), height);
   }
   button.DestroyWindow();
@@ -272,12 +274,10 @@ TEST_F(QtHost, ItsMenuKeysStayTheHosts) {
   save->setShortcuts({QKeySequence("Ctrl+S"), QKeySequence("F5"), QKeySequence("S")});
   QObject::connect(save, &QAction::triggered, &*host, [&] { ++saved; });
   host->addAction(save);
-  SetFocus(inside.GetHandle());
-  user::Settle();
+  user::Click(inside, {3, 3});
   user::Key('S', MK_CONTROL);
   QTest::keyClick(QtDisplay::WidgetOf(inside), Qt::Key_F5);
   EXPECT_EQ(saved, 2);
-  fprintf(stderr,"DBG focus %p inside %p lay %d %d\n",(void*)QApplication::focusWidget(),(void*)QtDisplay::WidgetOf(inside),(int)GetFocus(),(int)inside.GetHandle());
   user::Type("s");
   EXPECT_EQ(saved, 2) << "a plain key is ours";
   EXPECT_EQ(inside.GetText(), "s");

@@ -81,7 +81,8 @@ class QtGrid : public testing::Test {
     grid.SetTreeStyle(SECTreeCtrl::kHasButtons | SECTreeCtrl::kHasLines | SECTreeCtrl::kLinesAtRoot);
     grid.SetRowFont({0, 0, 90, "Courier New"});
     grid.SetImageList(&images);
-    grid.Create({.ex_style = WS_EX_CLIENTEDGE, .rect = {0, 0, 560, 320}, .parent = owner.GetHandle(), .id = 5});
+    grid.Create(
+        {.ex_style = WS_EX_CLIENTEDGE, .rect = {0, 0, 560, 320}, .parent = owner.GetHandle(), .id = 5});
     grid.SetHeaderShown(true);
     grid.SetColumnTitle(0, "Name");
     grid.SetColumnWidth(0, 200);
@@ -162,14 +163,18 @@ TEST_F(QtGrid, LooksLikeATableWithLinesBoxesAndARedRow) {
   if (const char* kept = std::getenv("PVW_KEEP_PICTURES")) image.save(QString(kept) + "/grid.png");
 
   // The picture has the frame around the client area.
-  const auto in_picture = [](RECT rect) { return RECT{rect.left + 1, rect.top + 1, rect.right, rect.bottom}; };
+  const auto in_picture = [](RECT rect) {
+    return RECT{rect.left + 1, rect.top + 1, rect.right, rect.bottom};
+  };
   const RECT red = in_picture(grid.GetCellRect(grid.red, 2));
   EXPECT_TRUE(Shows(image, red, QColor(255, 0, 0)));
   EXPECT_FALSE(Shows(image, red, Qt::black));
   EXPECT_FALSE(Shows(image, in_picture(grid.GetCellRect(port, 2)), QColor(255, 0, 0)));
-  EXPECT_TRUE(Shows(image, in_picture(grid.GetCellRect(data, 3)), QApplication::palette().color(QPalette::Highlight)));
+  EXPECT_TRUE(Shows(image, in_picture(grid.GetCellRect(data, 3)),
+                    QApplication::palette().color(QPalette::Highlight)));
   const POINT box = grid.GetPartPoint(port, TVHT_ONITEMBUTTON);
-  EXPECT_TRUE(Shows(image, in_picture({box.x - 3, box.y - 2, box.x + 3, box.y + 2}), Qt::black)) << "the minus";
+  EXPECT_TRUE(Shows(image, in_picture({box.x - 3, box.y - 2, box.x + 3, box.y + 2}), Qt::black))
+      << "the minus";
 }
 
 TEST_F(QtGrid, AWindowWithoutAWidgetIsDrawnTheSameWay) {
@@ -220,7 +225,8 @@ TEST_F(QtGrid, APressTellsTheOwnerBeforeItTakesTheFocusAndACellIsEditedAfterTheD
   ASSERT_TRUE(grid.EditCell(data, 2));
   user::Type("B");
   user::Click(grid, Cell(grid.red, 0));
-  EXPECT_THAT(owner.story, testing::ElementsAre("edit", "no text", "edit", "click before the focus", "text B"));
+  EXPECT_THAT(owner.story,
+              testing::ElementsAre("edit", "no text", "edit", "click before the focus", "text B"));
 }
 
 TEST_F(QtGrid, ADoubleClickEditsNothing) {

@@ -46,11 +46,11 @@ Qt::KeyboardModifiers QtModifiers(UINT modifiers) {
 
 Qt::Key QtKey(UINT key) {
   static const std::map<UINT, Qt::Key> keys = {
-      {VK_BACK, Qt::Key_Backspace}, {VK_TAB, Qt::Key_Tab},     {VK_RETURN, Qt::Key_Return},
-      {VK_ESCAPE, Qt::Key_Escape},  {VK_END, Qt::Key_End},     {VK_HOME, Qt::Key_Home},
-      {VK_LEFT, Qt::Key_Left},      {VK_UP, Qt::Key_Up},       {VK_RIGHT, Qt::Key_Right},
+      {VK_BACK, Qt::Key_Backspace}, {VK_TAB, Qt::Key_Tab},      {VK_RETURN, Qt::Key_Return},
+      {VK_ESCAPE, Qt::Key_Escape},  {VK_END, Qt::Key_End},      {VK_HOME, Qt::Key_Home},
+      {VK_LEFT, Qt::Key_Left},      {VK_UP, Qt::Key_Up},        {VK_RIGHT, Qt::Key_Right},
       {VK_DOWN, Qt::Key_Down},      {VK_PRIOR, Qt::Key_PageUp}, {VK_NEXT, Qt::Key_PageDown},
-      {VK_DELETE, Qt::Key_Delete},  {VK_ADD, Qt::Key_Plus},    {VK_SUBTRACT, Qt::Key_Minus},
+      {VK_DELETE, Qt::Key_Delete},  {VK_ADD, Qt::Key_Plus},     {VK_SUBTRACT, Qt::Key_Minus},
       {VK_F1, Qt::Key_F1},          {VK_F2, Qt::Key_F2}};
   const auto found = keys.find(key);
   return found != keys.end() ? found->second : static_cast<Qt::Key>(key);
@@ -73,7 +73,8 @@ QString TextOf(UINT key, UINT modifiers) {
   }
   if (key == VK_ADD) return QStringLiteral("+");
   if (key == VK_SUBTRACT) return QStringLiteral("-");
-  return (key >= '0' && key <= '9') || key == VK_SPACE ? QString(QChar(static_cast<char16_t>(key))) : QString();
+  return (key >= '0' && key <= '9') || key == VK_SPACE ? QString(QChar(static_cast<char16_t>(key)))
+                                                       : QString();
 }
 
 Qt::MouseButton Button(bool right) {
@@ -120,8 +121,8 @@ void Click(CWnd& window, POINT at, bool right) {
 void DoubleClick(CWnd& window, POINT at) {
   QWidget* widget = WidgetAt(window);
   QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(at.x, at.y));
-  QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(at.x, at.y), widget->mapToGlobal(QPointF(at.x, at.y)),
-                     Qt::LeftButton, Qt::LeftButton, {});
+  QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(at.x, at.y),
+                     widget->mapToGlobal(QPointF(at.x, at.y)), Qt::LeftButton, Qt::LeftButton, {});
   QCoreApplication::sendEvent(widget, &second);
   QTest::mouseRelease(widget, Qt::LeftButton, {}, QPoint(at.x, at.y));
   Settle();
