@@ -1,0 +1,151 @@
+// A pane of the I/O view: a grid over the record tree, with all the commands of the view.
+//
+// Two panes show the same tree side by side. The first has every record that the definition file defines and
+// fills a module when it is opened; the second has the user's selection alone, with what the file lacks, and
+// is filled whole. Opening a row is what makes its record take part in reads of the target.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "component/instance/debug_instance_data_ctrl.h"
+#include "component/services/session_store.h"
+#include "frame/controls/tree_grid_ctrl.h"
+#include "model/io_data.h"
+#include "model/io_data_file.h"
+#include "platform/gui/graphics.h"
+#include "view/pane_frame.h"
+
+namespace pvw {
+
+// The owner calls, in this order: SetFrame, CreatePane, LinkOtherPane (on both panes, once there are two),
+// SetStateValid, SetFont, SetItemColours, RefreshData. It destroys the window before the file, the tree or
+// the frame go.
+class CPvwIOInstanceCtrl : public CPvwDebugInstanceDataCtrl {
+ public:
+  // `paneIndex` 0 is the pane of all records, 1 that of the selection. Nothing is owned; host and registrar
+  // may be null.
+  CPvwIOInstanceCtrl(CIODataFile* file, CIOData* data, std::size_t paneIndex, IQComponentHost* componentHost,
+                     CUiRegistrar* registrar, std::uint32_t unused);
+  ~CPvwIOInstanceCtrl() override;
+
+  static const platform::MessageTable kMessages;
+
+  void SetFrame(CPaneFrame* frame) { m_pFrame = frame; }
+  // Not owned. A pane whose window goes clears what the other holds of it.
+  void LinkOtherPane(CPvwIOInstanceCtrl* pane) { m_pOtherPane = pane; }
+  // Whether the definition file was there when the view opened. Without one LoadState does nothing.
+  void SetStateValid(bool valid) { m_bStateValid = valid; }
+
+  // Shows what the records hold now, and marks what has changed. Nothing is read from the target.
+  void RefreshData() override;
+  // `size` in points. Always 0.
+  virtual platform::Status SetFont(std::string_view face, std::int32_t size);
+  // Indices of logical colours; `item` isn't used. Always 0.
+  virtual platform::Status SetItemColours(std::string_view item, std::int32_t fg, std::int32_t bk);
+  virtual platform::HWND GetTreeWindow() const { return m_tree.GetHandle(); }
+  // The state of the grid under `key`; the first pane writes the selection besides. Always 0.
+  virtual platform::Status SaveState(CSessionStore& store, std::string_view key);
+  virtual platform::Status LoadState(CSessionStore& store, std::string_view key);
+
+  // Loads another definition into both panes, in the first; does nothing in the second. A base of 0 is the
+  // file's own. `path` has placeholders expanded, and ".io" appended where it doesn't end so. The selection
+  // survives by name. The frame's path stays as it is.
+  void LoadIOFile(std::string_view path, std::uint32_t baseAddress);
+
+  // Deletes all rows and makes them anew; the second pane opens its rows, unless the target runs.
+  void RebuildTree();
+  // Takes back the opens that this pane has counted and lets go of its records. The rows stay as they look,
+  // and neither refresh, open nor close any more. Runs by itself before the window goes.
+  void ReleaseExpandCounts();
+
+  // Null for a row without a record.
+  CIORec* FindRecord(platform::HTREEITEM item) const;
+  // False for a top-level row whose only row below it stands for children that haven't been read.
+  bool HasRealChildren(platform::HTREEITEM item) const;
+
+  // The last write time, in units of 100 ns since 1601; false, and `time` stays, when the file can't be
+  // opened.
+  static bool GetFileWriteTime(std::string_view path, std::uint64_t& time);
+
+ protected:
+  const platform::MessageTable& GetMessageTable() const override { return kMessages; }
+
+ private:
+  using HTREEITEM = platform::HTREEITEM;
+
+  // Window.
+  platform::LRESULT OnCreate(const platform::MSG& msg);
+  platform::LRESULT OnDestroy(const platform::MSG& msg);
+  void RegisterAtHost();
+  bool CreateTree(const std::string (&titles)[4]);
+  platform::HWND GetParentHandle() const;
+
+  // Rows.
+  bool IsVisibleHere(const CIORec& record) const;
+  HTREEITEM InsertRow(CIORec& record, HTREEITEM parent);
+  void FillTree(bool openAll);
+  bool AddChildRows(CIORec& record, HTREEITEM parent);
+  HTREEITEM AddChildRow(CIORec& child, HTREEITEM parent);
+  void ApplySelectionToRow(HTREEITEM item, CIORec& record);
+  void SetLeafImage(HTREEITEM item, const CIORec& record);
+  void FillSelectedRow(HTREEITEM item, CIORec& record);
+  void OpenSelectedRows(bool openAll);
+  void OpenRows();
+  void DeleteRows();
+  void OpenRow(HTREEITEM item, CIORec& record);
+  void ReadChildren(HTREEITEM item, CIORec& record);
+  void CloseRow(HTREEITEM item, CIORec& record);
+
+  // Refresh.
+  void UpdateRowValues(HTREEITEM item);
+  void UpdateRowValue(HTREEITEM item);
+  void RefreshRow(HTREEITEM item, CIORec& record);
+  std::string ExpandedIOFilePath() const;
+  // False, and the user is told, when the file isn't the one that was loaded any more.
+  bool CheckIOFile() const;
+
+  // Commands.
+  void OnRefresh();
+  void OnLockRefresh();
+  void OnUpdateLockRefresh(platform::CCmdUI& ui);
+  void OnLoadIOFile();
+  void OnSelectRegister();
+  void OnUpdateSelectRegister(platform::CCmdUI& ui);
+  void OnPrint();
+  void OnSaveToFile();
+  void OnFind();
+  void OnFindNext();
+  void OnUpdateFindNext(platform::CCmdUI& ui);
+  void OnShowToolbar();
+  void OnUpdateShowToolbar(platform::CCmdUI& ui);
+  void OnCustomizeToolbar();
+  void OnUpdateCustomizeToolbar(platform::CCmdUI& ui);
+  bool IsToolbarShown() const;
+
+  // Notifications of the grid.
+  platform::LRESULT OnItemExpanding(platform::NMHDR& header);
+  platform::LRESULT OnSelChanged(platform::NMHDR& header);
+  platform::LRESULT OnBeginNameEdit(platform::NMHDR& header);
+  platform::LRESULT OnBeginCellEdit(platform::NMHDR& header);
+  platform::LRESULT OnDblClick(platform::NMHDR& header);
+
+  std::unordered_map<HTREEITEM, CIORec*> m_itemMap;
+  std::string m_findText;  // of the last search; empty before the first
+  CTreeGridCtrl m_tree;
+  platform::CImageList m_images;
+  std::int32_t m_textColour = 0;  // as SetItemColours last gave them
+  std::int32_t m_backColour = 0;
+
+  CIODataFile* const m_pIOFile;
+  CIOData* const m_pIOData;
+  const std::size_t m_paneIndex;
+  CPaneFrame* m_pFrame = nullptr;
+  bool m_bStateValid = true;
+  CPvwIOInstanceCtrl* m_pOtherPane = nullptr;
+};
+
+}  // namespace pvw

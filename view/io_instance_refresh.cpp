@@ -1,0 +1,85 @@
+// What brings a pane's rows up to date with the records, and the records with the file.
+
+#include <tuple>
+
+#include "frame/controls/tree_grid_state.h"
+#include "platform/base/files.h"
+#include "platform/base/message_box.h"
+#include "platform/base/resources.h"
+#include "resources/ids.h"
+#include "support/placeholder_expander.h"
+#include "view/io_instance_ctrl.h"
+#include "view/pane_ids.h"
+
+namespace pvw {
+
+void CPvwIOInstanceCtrl::RefreshData() {
+  // Marks last until the next stop of the target, which shows only what it changed itself.
+  if (m_pFrame->IsTargetUpdate()) m_tree.ClearChanged();
+  for (const auto& [item, record] : m_itemMap) RefreshRow(item, *record);
+}
+
+void CPvwIOInstanceCtrl::RefreshRow(HTREEITEM item, CIORec& record) {
+  record.UpdateEnabled();
+  if (record.IsMissing()) return;
+  const std::string text = record.GetValueText();
+  const std::string& old = m_tree.GetItemText(item, kValueColumn);
+  if (old == text) return;
+  const bool changed = !old.empty();
+  m_tree.SetItemText(item, kValueColumn, text);
+  if (!changed) return;
+  m_tree.MarkChanged(item);
+  for (HTREEITEM child = m_tree.GetChildItem(item); child != 0; child = m_tree.GetNextSiblingItem(child)) {
+    m_tree.MarkChanged(child);
+  }
+}
+
+void CPvwIOInstanceCtrl::UpdateRowValues(HTREEITEM item) {
+  UpdateRowValue(item);
+  const int depth = m_tree.GetItemDepth(item);
+  for (HTREEITEM row = NextRow(m_tree, item, true); row != 0 && m_tree.GetItemDepth(row) > depth;
+       row = NextRow(m_tree, row, true)) {
+    UpdateRowValue(row);
+  }
+}
+
+void CPvwIOInstanceCtrl::UpdateRowValue(HTREEITEM item) {
+  CIORec* const record = FindRecord(item);
+  if (record == nullptr) return;
+  record->UpdateEnabled();
+  if (!record->IsMissing()) m_tree.SetItemText(item, kValueColumn, record->GetValueText());
+}
+
+void CPvwIOInstanceCtrl::OnRefresh() {
+  std::ignore = m_pIOData->ReadValues(debugger);
+  RefreshData();
+  if (m_pOtherPane != nullptr) m_pOtherPane->RefreshData();
+}
+
+void CPvwIOInstanceCtrl::OnLockRefresh() {
+  m_pFrame->ToggleRefreshLock();
+}
+
+void CPvwIOInstanceCtrl::OnUpdateLockRefresh(platform::CCmdUI& ui) {
+  ui.SetCheck(m_pFrame->IsRefreshLocked());
+}
+
+bool CPvwIOInstanceCtrl::GetFileWriteTime(std::string_view path, std::uint64_t& time) {
+  const auto written = platform::GetLastWriteTime(path);
+  if (written) time = *written;
+  return written.has_value();
+}
+
+std::string CPvwIOInstanceCtrl::ExpandedIOFilePath() const {
+  return CPlaceholderExpander(host).Expand(m_pFrame->GetIOFilePath());
+}
+
+bool CPvwIOInstanceCtrl::CheckIOFile() const {
+  std::uint64_t time = 0;
+  if (!GetFileWriteTime(ExpandedIOFilePath(), time)) return true;
+  if (time == m_pFrame->GetIOFileWriteTime()) return true;
+  platform::MessageBox(platform::LoadString(IDS_FILE_MODIFIED), platform::MB_OK);
+  return false;
+}
+
+}  // namespace pvw
