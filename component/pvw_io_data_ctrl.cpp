@@ -1,0 +1,201 @@
+#include "component/pvw_io_data_ctrl.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "component/services/module_state.h"
+#include "host/ids.h"
+#include "platform/base/message_box.h"
+#include "platform/base/module.h"
+#include "platform/base/resources.h"
+#include "resources/ids.h"
+#include "support/path_text.h"
+#include "target/debugger_binding.h"
+
+namespace pvw {
+
+using platform::E_FAIL;
+using platform::S_OK;
+using platform::Status;
+
+namespace {
+
+// Lies in the component's module.
+const char kHere = 0;
+
+constexpr const char* kResourceLibrary = "PvwIOExtRes.dll";
+constexpr std::size_t kMaxPath = 259;
+
+constexpr std::uint32_t kBindMode = 1;
+
+constexpr std::size_t kGroupPixels = 16 * 15;
+constexpr Status kOutOfMemory = static_cast<Status>(0x8007000Eu);
+
+bool AsksForRefresh(const platform::GUID& event) {
+  return event == EVENT_MEMORY_CHANGED || event == EVENT_VIEW_REFRESH_1 || event == EVENT_VIEW_REFRESH_2 ||
+         event == EVENT_VIEW_REFRESH_3;
+}
+
+// The pixels as the system has them in memory: blue, green, red, alpha. A picture of another size is cut, or
+// filled up with zeros.
+std::vector<std::uint8_t> BitmapBytes(std::uint32_t id) {
+  std::vector<std::uint8_t> bytes(kGroupPixels * sizeof(std::uint32_t));
+  const platform::PictureResource* const picture = platform::LoadBitmap(id);
+  if (picture == nullptr) return bytes;
+  const std::size_t count = std::min(kGroupPixels, picture->pixels.size());
+  for (std::size_t i = 0; i < count; ++i) {
+    for (unsigned byte = 0; byte < 4; ++byte) {
+      bytes[i * 4 + byte] = static_cast<std::uint8_t>(picture->pixels[i] >> (8 * byte));
+    }
+  }
+  return bytes;
+}
+
+Status GiveBytes(const std::vector<std::uint8_t>& bytes, platform::VARIANT* out) {
+  platform::SAFEARRAY* const array = platform::SafeArrayCreateVector(platform::VT_VARIANT, bytes.size());
+  if (array == nullptr) return kOutOfMemory;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    platform::VARIANT* const element = platform::SafeArrayVariantAt(array, i);
+    element->vt = platform::VT_UI1;
+    element->bVal = bytes[i];
+  }
+  out->vt = platform::VT_ARRAY | platform::VT_UI1;
+  out->parray = array;
+  return S_OK;
+}
+
+}  // namespace
+
+CPvwIODataCtrl::~CPvwIODataCtrl() {
+  if (host != nullptr) CPvwIODataCtrl::Disconnect(1);
+  UnbindHost();
+}
+
+Status CPvwIODataCtrl::QueryInterface(const platform::GUID* iid, void** out) {
+  *out = nullptr;
+  if (*iid == IID_IUnknown || *iid == IID_IQRegistryClient) {
+    *out = static_cast<IQRegistryClient*>(this);
+  } else if (*iid == IID_IQComponent || *iid == CLSID_PvwIO) {
+    *out = static_cast<IQComponent*>(this);
+  } else if (*iid == IID_IQErrorReporter) {
+    *out = static_cast<IQErrorReporter*>(this);
+  } else if (*iid == IID_IQSteppingClient) {
+    *out = static_cast<IQSteppingClient*>(this);
+  } else if (*iid == IID_IQTestComponentGroup) {
+    *out = static_cast<IQTestComponentGroup*>(this);
+  }
+  return *out != nullptr ? S_OK : platform::E_NOINTERFACE;
+}
+
+// Connect and disconnect ----------------------------------------------------------------------------------
+
+Status CPvwIODataCtrl::Connect(IQComponentHost* component_host, std::int16_t flag) {
+  if (flag == 0) return CPvwDebugDataCtrl::Connect(component_host, flag);
+  if (host != nullptr) Disconnect(flag);
+  connectHost = component_host;
+  if (!LoadResources()) return E_FAIL;
+  if (component_host != nullptr) {
+    component_host->AddClient(&IID_IQSteppingClient, static_cast<IQSteppingClient*>(this));
+  }
+  return CPvwDebugDataCtrl::Connect(component_host, flag);
+}
+
+bool CPvwIODataCtrl::LoadResources() {
+  const CModuleState state;
+  resources.reset();
+  const auto module_path = platform::GetModuleFileName(&kHere);
+  if (!module_path || module_path->size() > kMaxPath) {
+    platform::MessageBox(
+        "Cannot obtain module. File name missing.\n"
+        "Please read User Guide to create/install a new version.",
+        platform::MB_ICONSTOP);
+    platform::MessageBox("Application will now exit.");
+    return false;
+  }
+  std::string error;
+  resources =
+      LoadResourceLibrary(JoinPath(LowerCaseText(GetDirectoryOf(*module_path)), kResourceLibrary), error);
+  if (resources == nullptr) platform::MessageBox(error);
+  return resources != nullptr;
+}
+
+Status CPvwIODataCtrl::Disconnect(std::int16_t flag) {
+  if (flag != 0) {
+    if (connectHost != nullptr) {
+      connectHost->RemoveClient(&IID_IQSteppingClient, static_cast<IQSteppingClient*>(this));
+      connectHost = nullptr;
+    }
+    const CModuleState state;
+    resources.reset();
+  }
+  return CPvwDebugDataCtrl::Disconnect(flag);
+}
+
+void CPvwIODataCtrl::OnConnected() {
+  if (uiRegistrar == nullptr || registrarHost != host) {
+    uiRegistrar = std::make_unique<CUiRegistrar>(host);
+    registrarHost = host;
+  }
+  if (boundHost != host) UnbindHost();
+  view = std::make_unique<CPvwIODataCommandSink>(&ioFile, &ioData, host, uiRegistrar.get());
+  view->CreateSink();
+}
+
+void CPvwIODataCtrl::OnDisconnected() {
+  if (view != nullptr) {
+    view->DestroySink();
+    view.reset();
+  }
+  if (ioFile.IsOpen()) ioFile.Close();
+  // The next connect reads the file anew.
+  ioData.DeleteModules();
+  ioData.DeleteSelection();
+}
+
+void CPvwIODataCtrl::UnbindHost() {
+  if (boundHost != nullptr) UnbindDebuggerFunctions(std::exchange(boundHost, nullptr));
+}
+
+// News of the target --------------------------------------------------------------------------------------
+
+Status CPvwIODataCtrl::OnEvent(const QEventRecord* event) {
+  if (AsksForRefresh(event->id)) {
+    // The end of the step makes up for it.
+    if (!stepInProgress) RefreshView();
+  } else if (event->id == EVENT_TARGET_CONNECTED && host != nullptr) {
+    boundHost = host;
+    BindDebuggerFunctions(host, kBindMode);
+    SetCurrentDebugHost(host);
+  } else if (event->id == EVENT_TARGET_DISCONNECTED && host != nullptr) {
+    boundHost = nullptr;
+    UnbindDebuggerFunctions(host);
+  }
+  return CPvwDebugDataCtrl::OnEvent(event);
+}
+
+void CPvwIODataCtrl::RefreshView() {
+  if (view == nullptr || !view->IsViewOpen() || view->IsRefreshLocked()) return;
+  // A failed read is silent: the panes show what the records hold.
+  static_cast<void>(ioData.ReadValues(debugger));
+  view->SetTargetUpdate(true);
+  view->UpdatePanes();
+  view->SetTargetUpdate(false);
+}
+
+// The group in the host's test framework ------------------------------------------------------------------
+
+Status CPvwIODataCtrl::GetGroupName(platform::BSTR* name) {
+  *name = platform::NewBstr("CPU");
+  return S_OK;
+}
+
+Status CPvwIODataCtrl::GetGroupBitmaps(platform::VARIANT* first, platform::VARIANT* second) {
+  const CModuleState state;
+  const std::vector<std::uint8_t> bytes = BitmapBytes(IDB_TEST_GROUP);
+  const Status status = GiveBytes(bytes, first);
+  return platform::Failed(status) ? status : GiveBytes(bytes, second);
+}
+
+}  // namespace pvw

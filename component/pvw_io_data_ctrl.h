@@ -1,0 +1,63 @@
+// The data control of the I/O component: connects an instance to its host, owns its definition data and its
+// view, and has the view refreshed when the target stops.
+#pragma once
+
+#include <memory>
+
+#include "component/pvw_debug_data_ctrl.h"
+#include "component/services/stepping_client.h"
+#include "component/services/ui_registrar.h"
+#include "model/io_data.h"
+#include "model/io_data_file.h"
+#include "support/dll_resource.h"
+
+namespace pvw {
+
+class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, public IQTestComponentGroup {
+ public:
+  CPvwIODataCtrl() = default;
+  // Disconnects first where the host hasn't.
+  ~CPvwIODataCtrl() override;
+
+  // One answer for all faces.
+  platform::Status QueryInterface(const platform::GUID* iid, void** out) override;
+  std::uint32_t AddRef() override { return 1; }
+  std::uint32_t Release() override { return 0; }
+
+  // Throws a `const char*` out to the host when the target's debugger library is the wrong one; see
+  // target/debugger_binding.h.
+  platform::Status OnEvent(const QEventRecord* event) override;
+  // E_FAIL, after a message, when the resource library beside the component can't be had. What a failed
+  // connect has loaded stays until the next one or the end. A connect while connected disconnects first.
+  platform::Status Connect(IQComponentHost* component_host, std::int16_t flag) override;
+  platform::Status Disconnect(std::int16_t flag) override;
+
+  platform::Status GetGroupName(platform::BSTR* name) override;
+  platform::Status GetGroupBitmaps(platform::VARIANT* first, platform::VARIANT* second) override;
+
+  // Reads the target and shows it, as the news of one stop; nothing while the view isn't on the screen, or
+  // refreshes are locked.
+  void RefreshView();
+  void OnRefreshNeeded() override { RefreshView(); }
+
+ protected:
+  void OnConnected() override;
+  void OnDisconnected() override;
+
+ private:
+  // False, and the user has been told, when there is no such library.
+  bool LoadResources();
+  void UnbindHost();
+
+  CIODataFile ioFile;
+  CIOData ioData;
+  std::unique_ptr<CDllResource> resources;  // null until a connect
+  // From the first connect on. It keeps its host's services, so that another host gets another one.
+  std::unique_ptr<CUiRegistrar> uiRegistrar;
+  IQComponentHost* registrarHost = nullptr;
+  IQComponentHost* connectHost = nullptr;  // as Connect last got it, until the disconnect
+  // Whose target this control has bound. The binding outlives a disconnect: it goes when the target does.
+  IQComponentHost* boundHost = nullptr;
+};
+
+}  // namespace pvw

@@ -1,0 +1,135 @@
+#include "tests/component/component_world.h"
+
+#include "host/events.h"
+#include "platform/base/app.h"
+#include "platform/base/paths.h"
+
+namespace pvw::test {
+
+using platform::ScopedBstr;
+
+namespace {
+
+constexpr std::uint32_t kOpenView = 32770;
+
+constexpr const char* kDefinition =
+    "[Modules]\nFileVersion=1\nModule1=PORT\nModule2=TIMER\n"
+    "[PORT]\nPDATA=FF0000 B A\nPDIR=FF0001 B A\n"
+    "[TIMER]\nTCNT=FF0010 W A\n";
+
+}  // namespace
+
+ComponentFile::ComponentFile(const std::string& native)
+    : module(platform::LoadLibrary(platform::FromNativePath(native).value())) {
+  EXPECT_NE(module, nullptr) << native;
+  const auto find = [&](const char* name) { return platform::GetProcAddress(module, name); };
+  LibraryRegister2 = reinterpret_cast<decltype(LibraryRegister2)>(find("LibraryRegister2"));
+  QueryInterface2 = reinterpret_cast<decltype(QueryInterface2)>(find("QueryInterface2"));
+  CreateInstance = reinterpret_cast<decltype(CreateInstance)>(find("CreateInstance"));
+  DestroyInstance = reinterpret_cast<decltype(DestroyInstance)>(find("DestroyInstance"));
+  GetComponentVersion = reinterpret_cast<decltype(GetComponentVersion)>(find("GetComponentVersion"));
+}
+
+ComponentFile::~ComponentFile() {
+  platform::FreeLibrary(module);
+}
+
+void Instance::Fire(const platform::GUID& event) {
+  const QEventRecord record{event, 77};
+  EXPECT_EQ(Component().OnEvent(&record), platform::S_OK);
+}
+
+World::World() {
+  dir.Write("device.io", kDefinition);
+  host.device_path = dir.Path("device");
+  host.paths.configuration_directory = dir.Path();
+}
+
+void World::LoadSession() {
+  const ScopedBstr workspace("ws"), project("prj"), name("night"), configuration("cfg");
+  if (Sessions() == nullptr) return;
+  EXPECT_EQ(Sessions()->LoadSessionData(workspace.Get(), project.Get(), name.Get(), configuration.Get()), 0);
+}
+
+void World::SaveSession() {
+  const ScopedBstr workspace("ws"), project("prj"), configuration("cfg");
+  if (Sessions() == nullptr) return;
+  EXPECT_EQ(Sessions()->SaveSessionData(workspace.Get(), project.Get(), configuration.Get()), 0);
+}
+
+bool World::IsDirty() const {
+  std::uint32_t dirty = 77;
+  Sessions()->IsSessionDataDirty(nullptr, nullptr, nullptr, &dirty);
+  EXPECT_LE(dirty, 1u);
+  return dirty == 1;
+}
+
+std::string World::Kept(const std::string& key) const {
+  const auto found = host.session.find(kSession + key);
+  return found != host.session.end() ? found->second : "(none)";
+}
+
+void World::OpenView() {
+  platform::SendMessage(host.Ui().SinkOf(kOpenView), platform::WM_COMMAND, kOpenView);
+}
+
+bool World::CanOpenView() const {
+  platform::CWnd* const sink = platform::CWnd::FromHandle(
+      host.Registered(IID_IQIOServer) != nullptr ? const_cast<FakeHost&>(host).Ui().SinkOf(kOpenView) : 0);
+  platform::CCmdUI ui(kOpenView);
+  EXPECT_TRUE(sink != nullptr && sink->UpdateCommand(ui));
+  return ui.IsEnabled();
+}
+
+platform::SECTreeCtrl* World::Grid(std::size_t pane) {
+  if (Dock() == nullptr) return nullptr;
+  const auto pages = host.Ui().Pages(Dock()->window->GetHandle());
+  if (pane >= pages.size()) return nullptr;
+  const platform::CWnd* const window = platform::CWnd::FromHandle(pages[pane].window);
+  if (window == nullptr || window->GetChildren().empty()) return nullptr;
+  return dynamic_cast<platform::SECTreeCtrl*>(window->GetChildren().front());
+}
+
+std::vector<std::string> World::Rows(std::size_t pane) {
+  std::vector<std::string> rows;
+  const platform::SECTreeCtrl* const grid = Grid(pane);
+  if (grid == nullptr) return {"no such pane"};
+  for (std::size_t row = 0; row < grid->GetRowCount(); ++row) {
+    const platform::HTREEITEM item = grid->GetItemAtRow(row);
+    const std::string& value = grid->GetItemText(item, 2);
+    rows.push_back(grid->GetItemText(item, 0) + (value.empty() ? "" : " " + value));
+  }
+  return rows;
+}
+
+void World::Expand(std::size_t pane, std::size_t row) {
+  platform::SECTreeCtrl* const grid = Grid(pane);
+  if (grid != nullptr) grid->Expand(grid->GetItemAtRow(row), platform::TVE_EXPAND);
+}
+
+std::size_t World::TakeReads() {
+  const std::size_t reads = host.Asked("ReadDirect 00FF0000").size();
+  host.ClearTranscript();
+  return reads;
+}
+
+ComponentTest::ComponentTest() {
+  platform::SetDisplay(&display);
+  main.Create({});
+  platform::SetMainWindow(main.GetHandle());
+}
+
+ComponentTest::~ComponentTest() {
+  platform::SetMainWindow(0);
+  main.DestroyWindow();
+  platform::SetDisplay(nullptr);
+}
+
+ConnectedTest::ConnectedTest() {
+  EXPECT_EQ(instance.Connect(world.host), platform::S_OK);
+  instance.Fire(EVENT_TARGET_CONNECTED);
+  world.LoadSession();
+  world.host.ClearTranscript();
+}
+
+}  // namespace pvw::test

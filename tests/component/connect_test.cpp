@@ -1,0 +1,343 @@
+// Connecting to a host and leaving it: orders, failures, hosts that lack something, and more than one of
+// each.
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <functional>
+#include <map>
+
+#include "host/events.h"
+#include "tests/component/component_world.h"
+
+namespace pvw {
+namespace {
+
+using platform::E_FAIL;
+using platform::GUID;
+using platform::S_OK;
+using platform::Status;
+using test::ComponentFile;
+using test::FakeHost;
+using test::Instance;
+using test::World;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ConnectTest : public test::ComponentTest {};
+
+// Without the questions for services, which the host answers the same in any order.
+std::vector<std::string> Acts(const FakeHost& host) {
+  std::vector<std::string> acts = host.Transcript();
+  std::erase_if(acts, [](const std::string& line) { return line.starts_with("GetService"); });
+  return acts;
+}
+
+TEST_F(ConnectTest, RegistersTheStepsThenTheFramesFacesThenItsPlaceInTheUserInterface) {
+  World world;
+  Instance instance(file);
+  EXPECT_EQ(instance.Connect(world.host), S_OK);
+  EXPECT_THAT(world.host.Asked("GetService"),
+              testing::IsSupersetOf({"GetService IQDeviceInfo", "GetService IQErrorService"}));
+  EXPECT_THAT(
+      Acts(world.host),
+      ElementsAre("AddClient {F34E8D5C-3FC5-4EAF-8BB7-7C0C37D5AAA0}", "QueryInterface IQHostFrame",
+                  "AllocOwnerId", "AllocOwnerId", "AddClient {453547D2-008B-44A3-BDF4-48B86CBCFB44}",
+                  "AddClient {F4B80273-DE68-4433-B25A-774FB15B2676}",
+                  "AddClient {05E4387F-B032-464F-A0C1-B9CCB3B51054}", "ReadString PVW_IO_FONT_NAME",
+                  "ReadInt PVW_IO_FGCOLOUR", "ReadInt PVW_IO_BKCOLOUR",
+                  "AddServer {34D95821-3D72-4D49-9565-E0C428C56CD0}",
+                  "AddMenu 201 owner 1 PvwIO [32770] - - \"\" \"\" 1", "AddCommandSink window1 owner 1 PvwIO",
+                  "AddCommandStrings of the module owner 1 PvwIO",
+                  "AddToolbar {WK_TB00000011_CPU} \"Cpu\" 203 0 owner 1 PvwIO [32770]",
+                  "AddAccelerators 9001 owner 1 PvwIO [32770] - -"));
+  const platform::CWnd* const sink = platform::CWnd::FromHandle(world.host.Ui().SinkOf(32770));
+  ASSERT_NE(sink, nullptr);
+  EXPECT_EQ(sink->GetParent(), &main);
+  EXPECT_EQ(sink->GetId(), 1u);
+  EXPECT_FALSE(sink->IsVisible());
+
+  world.host.ClearTranscript();
+  EXPECT_EQ(instance.Disconnect(), S_OK);
+  EXPECT_THAT(
+      world.host.Transcript(),
+      ElementsAre("RemoveClient {F34E8D5C-3FC5-4EAF-8BB7-7C0C37D5AAA0}", "RemoveMenu 201 owner 1 PvwIO",
+                  "RemoveAccelerators 9001 owner 1 PvwIO", "RemoveToolbar {WK_TB00000011_CPU} owner 1 PvwIO",
+                  "RemoveCommandStrings of the module owner 1 PvwIO",
+                  "RemoveCommandSink window1 owner 1 PvwIO",
+                  "RemoveClient {453547D2-008B-44A3-BDF4-48B86CBCFB44}",
+                  "RemoveClient {F4B80273-DE68-4433-B25A-774FB15B2676}",
+                  "RemoveServer {34D95821-3D72-4D49-9565-E0C428C56CD0}",
+                  "RemoveClient {05E4387F-B032-464F-A0C1-B9CCB3B51054}", "FreeOwnerId 1", "FreeOwnerId 2"));
+}
+
+TEST_F(ConnectTest, TakesAViewThatIsOpenAwayPaneByPane) {
+  World world;
+  Instance instance(file);
+  instance.Connect(world.host);
+  world.LoadSession();
+  world.OpenView();
+  const std::size_t live = world.host.Ui().Live().size();
+  EXPECT_GT(live, 12u);
+  world.host.ClearTranscript();
+
+  instance.Destroy();
+  std::vector<std::string> acts = Acts(world.host);
+  std::erase_if(acts, [](const std::string& line) {
+    return !line.starts_with("RemovePage dock1") && !line.starts_with("RemoveParent") &&
+           !line.starts_with("RemoveMenu") && !line.starts_with("RemoveClient") &&
+           !line.starts_with("FreeOwnerId");
+  });
+  EXPECT_THAT(acts, ElementsAre("RemoveClient {F34E8D5C-3FC5-4EAF-8BB7-7C0C37D5AAA0}",
+                                testing::StartsWith("RemovePage dock1"), "FreeOwnerId 3", "FreeOwnerId 4",
+                                testing::StartsWith("RemovePage dock1"), "RemoveParentWindow dock1",
+                                "FreeOwnerId 5", "FreeOwnerId 6", "RemoveMenu 201 owner 1 PvwIO",
+                                "RemoveClient {453547D2-008B-44A3-BDF4-48B86CBCFB44}",
+                                "RemoveClient {F4B80273-DE68-4433-B25A-774FB15B2676}",
+                                "RemoveClient {05E4387F-B032-464F-A0C1-B9CCB3B51054}", "FreeOwnerId 1",
+                                "FreeOwnerId 2"))
+      << "a control that is destroyed leaves its host by itself";
+  EXPECT_THAT(world.host.Ui().Live(), IsEmpty());
+  EXPECT_THAT(world.host.Ui().Owners(), IsEmpty());
+}
+
+TEST_F(ConnectTest, WithoutAHostOrAFlagChangesNothing) {
+  World world;
+  Instance instance(file);
+  IQComponent& component = instance.Component();
+  EXPECT_EQ(component.Connect(nullptr, 0), E_FAIL);
+  EXPECT_EQ(component.Connect(&world.host, 0), S_OK);
+  EXPECT_EQ(component.Disconnect(0), E_FAIL) << "not connected";
+  EXPECT_EQ(component.Disconnect(1), E_FAIL);
+  EXPECT_EQ(component.Connect(nullptr, 1), E_FAIL);
+  EXPECT_EQ(component.Disconnect(1), E_FAIL) << "nor now";
+  EXPECT_THAT(world.host.Transcript(), IsEmpty());
+
+  EXPECT_EQ(component.Connect(&world.host, -1), S_OK) << "any flag but 0";
+  world.host.ClearTranscript();
+  EXPECT_EQ(component.Disconnect(0), S_OK);
+  EXPECT_THAT(world.host.Transcript(), IsEmpty()) << "still connected";
+  EXPECT_EQ(component.Disconnect(1), S_OK);
+  world.host.ClearTranscript();
+  EXPECT_EQ(component.Disconnect(1), E_FAIL);
+  EXPECT_THAT(world.host.Transcript(), IsEmpty()) << "a host that it has left isn't called";
+  for (const GUID& event : {EVENT_MEMORY_CHANGED, EVENT_TARGET_CONNECTED, EVENT_TARGET_DISCONNECTED}) {
+    instance.Fire(event);
+  }
+  EXPECT_THAT(user, IsEmpty());
+}
+
+TEST_F(ConnectTest, NeedsItsResourceLibraryBesideIt) {
+  const test::TempDir dir;
+  const std::filesystem::path library = dir.Native("PvwIOExtRes.dll");
+  std::filesystem::copy_file(BINARY_DIR "/bin/PvwIO.dll", dir.Native("PvwIO.dll"));
+  const ComponentFile alone(dir.Native("PvwIO.dll").string());
+  World world;
+  Instance instance(alone);
+
+  std::string path = dir.Path();
+  std::ranges::transform(path, path.begin(), [](unsigned char c) { return std::tolower(c); });
+  const std::string message = "message: Error loading resource DLL " + path + "\\PvwIOExtRes.dll";
+  EXPECT_EQ(instance.Connect(world.host), E_FAIL);
+  EXPECT_THAT(user, ElementsAre(message));
+  EXPECT_THAT(world.host.Transcript(), IsEmpty()) << "the steps aren't registered either";
+  EXPECT_EQ(instance.Disconnect(), E_FAIL);
+
+  dir.Write("PvwIOExtRes.dll", "no library");
+  EXPECT_EQ(instance.Connect(world.host), E_FAIL);
+  EXPECT_THAT(user, ElementsAre(message, message));
+
+  dir.Delete("PvwIOExtRes.dll");
+  std::filesystem::copy_file(BINARY_DIR "/bin/PvwIO.dll", library);
+  user.clear();
+  EXPECT_EQ(instance.Connect(world.host), E_FAIL);
+  EXPECT_THAT(user, ElementsAre("message: Dll " + path + "\\PvwIOExtRes.dll is not a resources Dll"));
+
+  std::filesystem::remove(library);
+  std::filesystem::copy_file(BINARY_DIR "/bin/PvwIOExtRes.dll", library);
+  EXPECT_EQ(instance.Connect(world.host), S_OK) << "mended";
+  EXPECT_EQ(instance.Disconnect(), S_OK);
+}
+
+TEST_F(ConnectTest, AgainAtTheSameHostKeepsTheRegistrarAndReadsTheFileAnew) {
+  World world;
+  Instance instance(file);
+  const auto whole_session = [&] {
+    EXPECT_EQ(instance.Connect(world.host), S_OK);
+    world.LoadSession();
+    world.OpenView();
+    return world.Rows(0);
+  };
+  const std::vector<std::string> rows = whole_session();
+  EXPECT_THAT(rows, ElementsAre("PORT", "TIMER"));
+  void* const frame = world.Sessions();
+  EXPECT_NE(frame, nullptr);
+  EXPECT_EQ(instance.Disconnect(), S_OK);
+  EXPECT_EQ(world.Sessions(), nullptr);
+
+  EXPECT_EQ(whole_session(), rows) << "no module twice";
+  EXPECT_THAT(world.host.Asked("GetService IQPageHost"), testing::SizeIs(1)) << "one registrar";
+  EXPECT_THAT(world.host.Asked("GetService IQDeviceInfo"), testing::SizeIs(2)) << "two frames";
+
+  // A connect without a disconnect first.
+  EXPECT_EQ(whole_session(), rows);
+  EXPECT_EQ(world.host.Ui().Owners().size(), 6u) << "of one frame and two panes";
+
+  World other;
+  EXPECT_EQ(instance.Connect(other.host), S_OK) << "to another host";
+  EXPECT_THAT(other.host.Asked("GetService IQPageHost"), testing::SizeIs(1));
+  EXPECT_THAT(world.host.Ui().Live(), IsEmpty());
+  EXPECT_THAT(other.host.Ui().Live(), testing::SizeIs(5));
+  instance.Destroy();
+}
+
+TEST_F(ConnectTest, TwoInstancesFollowTheirOwnHosts) {
+  World first, second;
+  Instance one(file), two(file);
+  for (auto [world, instance] : {std::pair(&first, &one), std::pair(&second, &two)}) {
+    EXPECT_EQ(instance->Connect(world->host), S_OK);
+    instance->Fire(EVENT_TARGET_CONNECTED);
+    world->LoadSession();
+    world->OpenView();
+    world->Expand(0, 0);
+  }
+  second.host.Poke(0xFF0000, {0x5A});
+  first.TakeReads();
+  second.TakeReads();
+
+  two.Fire(EVENT_MEMORY_CHANGED);
+  EXPECT_EQ(first.TakeReads(), 0u);
+  EXPECT_EQ(second.TakeReads(), 1u);
+  EXPECT_THAT(second.Rows(0), ElementsAre("PORT", "PDATA 5A", "PDIR 01", "TIMER"));
+  EXPECT_THAT(first.Rows(0), ElementsAre("PORT", "PDATA 00", "PDIR 01", "TIMER"));
+
+  EXPECT_EQ(two.Disconnect(), S_OK);
+  one.Fire(EVENT_MEMORY_CHANGED);
+  EXPECT_EQ(first.TakeReads(), 1u) << "also after the later one has gone";
+}
+
+TEST_F(ConnectTest, LetsTheComplaintAboutAWrongDebuggerLibraryOut) {
+  World world;
+  Instance instance(file);
+  instance.Connect(world.host);
+  world.host.Offer(IID_IQDebugPlatform);
+  world.host.library =
+      platform::LoadLibrary(platform::FromNativePath(BINARY_DIR "/bin/debugger_library_lacking.dll").value());
+  const QEventRecord connected{EVENT_TARGET_CONNECTED, 0};
+  std::string thrown;
+  try {
+    instance.Component().OnEvent(&connected);
+  } catch (const char* name) {
+    thrown = name;
+  }
+  EXPECT_EQ(thrown, "LOAD_HasAsmInfo");
+  EXPECT_THAT(user, Contains(testing::HasSubstr("LOAD_HasAsmInfo")));
+  instance.Fire(EVENT_TARGET_DISCONNECTED);
+  EXPECT_EQ(instance.Disconnect(), S_OK);
+  platform::FreeLibrary(world.host.library);
+}
+
+// A host that lacks something. Each run is a whole life, with the view open, refreshed and saved.
+
+void LiveWith(const ComponentFile& file, World& world) {
+  Instance instance(file);
+  EXPECT_EQ(instance.Connect(world.host), S_OK);
+  instance.Fire(EVENT_TARGET_CONNECTED);
+  world.Keep("IOCtrlViews", "1");
+  world.Keep("IOSelection IOWnd0", "{PORT?{PDATA?}}");
+  world.Keep("IOWnd0Exp0", "1");
+  world.LoadSession();
+  world.OpenView();
+  world.Expand(0, 0);
+  instance.Fire(EVENT_MEMORY_CHANGED);
+  if (world.Stepping() != nullptr) world.Stepping()->OnStepEnd();
+  if (world.Update() != nullptr) world.Update()->UpdateWindow();
+  if (world.Format() != nullptr) {
+    const platform::ScopedBstr face("Courier New");
+    world.Format()->SetDefaultFont(face.Get(), 9);
+    world.Format()->SetTextColours(1, 0);
+  }
+  if (world.Server() != nullptr) {
+    const platform::ScopedBstr path(world.host.device_path);
+    world.Server()->LoadIOFile(path.Get(), 0);
+  }
+  world.SaveSession();
+  instance.Fire(EVENT_TARGET_DISCONNECTED);
+  EXPECT_EQ(instance.Disconnect(), S_OK);
+}
+
+// A host that lets a registration stand when it is asked to take it back has it still.
+void ExpectNothingLeft(World& world) {
+  EXPECT_THAT(world.host.Ui().Live(), IsEmpty());
+  EXPECT_THAT(world.host.Ui().Owners(), IsEmpty());
+  EXPECT_EQ(world.Sessions(), nullptr);
+  EXPECT_EQ(world.Stepping(), nullptr);
+}
+
+TEST_F(ConnectTest, ToAHostThatLacksAnyOneServiceGoesWell) {
+  const GUID kServices[] = {IID_IQDebugSession,   IID_IQCustomPlaceholders,
+                            IID_IQDataManager,    IID_IQDeviceInfo,
+                            IID_IQSettings,       IID_IQMemoryMap,
+                            IID_IQBlockMemory,    IID_IQTargetMemory,
+                            IID_IQRegisterInfo,   IID_IQPageHost,
+                            IID_IQToolbarManager, IID_IQDebugExtra,
+                            IID_IQErrorService,   IID_IQUiManager,
+                            IID_IQNumberFormat,   IID_IQDebugger,
+                            IID_IQHostCommon,     IID_IQHostExtra,
+                            IID_IQPathService,    IID_IQAddressFormat,
+                            IID_IQHostFrame,      IID_IQCpuRegisters,
+                            IID_IQBreakpoints,    IID_IQDebugLibrary,
+                            IID_IQWorkspaceInfo,  IID_IQUiExtra,
+                            IID_IQDebugExtra2,    IID_IQCommandRecorder};
+  for (const GUID& service : kServices) {
+    for (const bool as_null : {false, true}) {
+      SCOPED_TRACE(platform::GuidText(service) + (as_null ? " is null" : " is missing"));
+      World world;
+      as_null ? world.host.GiveNull(service) : world.host.Lack(service);
+      LiveWith(file, world);
+      // The manager of menus takes back what the manager of toolbars has added.
+      if (service != IID_IQUiManager) ExpectNothingLeft(world);
+    }
+  }
+}
+
+std::string OperationOf(const std::string& line) {
+  return line.substr(0, line.find(' '));
+}
+
+bool TakesBack(const std::string& operation) {
+  return operation.starts_with("Remove") || operation == "FreeOwnerId";
+}
+
+TEST_F(ConnectTest, ToAHostThatFailsAnyOneCallOrAllOfAKindGoesWell) {
+  World whole;
+  LiveWith(file, whole);
+  ExpectNothingLeft(whole);
+  const std::vector<std::string> calls = whole.host.Transcript();
+  EXPECT_GT(calls.size(), 200u);
+
+  std::map<std::string, int> seen;
+  for (const std::string& call : calls) {
+    const std::string operation = OperationOf(call);
+    const int before = seen[operation]++;
+    for (const bool all : {false, true}) {
+      if (all && before > 0) continue;
+      SCOPED_TRACE(call + (all ? ", and all others" : ", call " + std::to_string(before)));
+      World world;
+      if (all) {
+        world.host.FailAll(operation);
+      } else {
+        for (int i = 0; i < before; ++i) world.host.FailNext(operation, S_OK);
+        world.host.FailNext(operation);
+      }
+      LiveWith(file, world);
+      if (!TakesBack(operation) && call != "GetService IQUiManager") ExpectNothingLeft(world);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace pvw
