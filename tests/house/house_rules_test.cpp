@@ -157,13 +157,13 @@ std::set<std::string> DeclaredFunctions(const std::string& header) {
   return found;
 }
 
-// Declared ahead of their callers: the panes, their frame and dialogs, the program's windows. A name leaves
+// Declared ahead of their callers: the dialogs, the program's windows and its scripts. A name leaves
 // this list with its first caller.
 const std::set<std::string> kAwaitingCallers = {
-    "Activate",     "CallUi",        "ClickControl", "DDX_Check",     "DDX_Control",         "DDX_Text",
-    "DoubleClick",  "MenuItems",     "OnControl",    "GetMessagePos", "GetLastWriteTime",    "OnNotify",
-    "OnReflect",    "RunPending",    "PressKey",     "PressOk",       "RightClick",          "SetDisplay",
-    "SetDriveRoot", "SetMainWindow", "TypeText",     "UpdateMenu",    "TranslateAccelerator"};
+    "CallUi",        "ClickControl", "DDX_Check",  "DDX_Control",  "DDX_Text",      "DoubleClick",
+    "GetMessagePos", "MenuItems",    "OnControl",  "OnReflect",    "PressKey",      "PressOk",
+    "RightClick",    "SavePicture",  "SetDisplay", "SetDriveRoot", "SetMainWindow", "TranslateAccelerator",
+    "TypeText",      "UpdateMenu"};
 
 std::string WithoutComments(const std::string& text) {
   std::string code;
