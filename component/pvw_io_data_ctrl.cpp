@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "component/services/module_state.h"
@@ -32,6 +34,9 @@ constexpr std::uint32_t kBindMode = 1;
 
 constexpr std::size_t kGroupPixels = 16 * 15;
 constexpr Status kOutOfMemory = static_cast<Status>(0x8007000Eu);
+
+// A host once for each control that has its target bound: instances at one host share the binding.
+std::unordered_multiset<IQComponentHost*> g_bindingUsers;
 
 bool AsksForRefresh(const platform::GUID& event) {
   return event == EVENT_MEMORY_CHANGED || event == EVENT_VIEW_REFRESH_1 || event == EVENT_VIEW_REFRESH_2 ||
@@ -154,8 +159,15 @@ void CPvwIODataCtrl::OnDisconnected() {
   ioData.DeleteSelection();
 }
 
+IQComponentHost* CPvwIODataCtrl::LeaveBinding() {
+  IQComponentHost* const left = std::exchange(boundHost, nullptr);
+  if (left != nullptr) g_bindingUsers.erase(g_bindingUsers.find(left));
+  return left;
+}
+
 void CPvwIODataCtrl::UnbindHost() {
-  if (boundHost != nullptr) UnbindDebuggerFunctions(std::exchange(boundHost, nullptr));
+  IQComponentHost* const left = LeaveBinding();
+  if (left != nullptr && !g_bindingUsers.contains(left)) UnbindDebuggerFunctions(left);
 }
 
 // News of the target --------------------------------------------------------------------------------------
@@ -165,11 +177,13 @@ Status CPvwIODataCtrl::OnEvent(const QEventRecord* event) {
     // The end of the step makes up for it.
     if (!stepInProgress) RefreshView();
   } else if (event->id == EVENT_TARGET_CONNECTED && host != nullptr) {
+    LeaveBinding();
+    g_bindingUsers.insert(host);
     boundHost = host;
     BindDebuggerFunctions(host, kBindMode);
     SetCurrentDebugHost(host);
   } else if (event->id == EVENT_TARGET_DISCONNECTED && host != nullptr) {
-    boundHost = nullptr;
+    LeaveBinding();
     UnbindDebuggerFunctions(host);
   }
   return CPvwDebugDataCtrl::OnEvent(event);

@@ -47,6 +47,9 @@ class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, p
  private:
   // False, and the user has been told, when there is no such library.
   bool LoadResources();
+  // The host whose target this control had bound, null for none. The binding itself stays.
+  IQComponentHost* LeaveBinding();
+  // The last control at a host takes the binding with it.
   void UnbindHost();
 
   CIODataFile ioFile;

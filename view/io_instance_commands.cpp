@@ -29,6 +29,7 @@ std::string WithDefinitionExtension(std::string path) {
 
 void CPvwIOInstanceCtrl::LoadIOFile(std::string_view path, std::uint32_t baseAddress) {
   if (m_paneIndex == 1) return;
+  const platform::HWND self = GetHandle();
   // Before the records go, no row refers to one, locked or not.
   DeleteRows();
   if (m_pOtherPane != nullptr) m_pOtherPane->DeleteRows();
@@ -41,11 +42,19 @@ void CPvwIOInstanceCtrl::LoadIOFile(std::string_view path, std::uint32_t baseAdd
   }
   m_pIOFile->Open(file, baseAddress);
   m_pIOData->SetHost(host);
-  std::ignore = m_pIOData->LoadModules(m_pIOFile);
+  // A fault of the file is told to the user, and the host may close the view meanwhile.
+  const auto is_gone = [self] { return self != 0 && !platform::IsWindow(self); };
+  CIOData& data = *m_pIOData;
+  std::ignore = data.LoadModules(m_pIOFile);
+  if (is_gone()) {
+    data.ApplySelection();
+    return;
+  }
   std::uint64_t time = 0;
   if (GetFileWriteTime(file, time)) m_pFrame->SetIOFileWriteTime(time);
   m_pIOData->ApplySelection();
   FillTree(true);
+  if (is_gone()) return;
 
   if (m_pFrame->IsRefreshLocked()) {
     // The selection is saved from the other pane's rows, so they come back, closed.
@@ -53,6 +62,7 @@ void CPvwIOInstanceCtrl::LoadIOFile(std::string_view path, std::uint32_t baseAdd
     return;
   }
   std::ignore = m_pIOData->ReadValues(debugger);
+  if (is_gone()) return;
   platform::SetFocus(m_tree.GetHandle());
   if (const HTREEITEM first = m_tree.GetItemAtRow(0)) m_tree.SelectItem(first);
   if (m_pOtherPane != nullptr) m_pOtherPane->RebuildTree();

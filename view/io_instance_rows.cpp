@@ -1,4 +1,7 @@
 // How a pane's rows come from the records.
+//
+// A faulty file is told to the user in the midst of it, and a read calls the host: either may close the view,
+// and with it the pane. What goes on after one looks at the window first.
 
 #include <tuple>
 #include <vector>
@@ -16,6 +19,11 @@ constexpr std::string_view kPlaceholderName = "null";
 
 bool HasNoChildren(const CIORec& record) {
   return record.GetChildren().empty();
+}
+
+// 0 is a pane that had no window any more to begin with.
+bool IsGone(platform::HWND pane) {
+  return pane != 0 && !platform::IsWindow(pane);
 }
 
 int LeafImage(const CIORec& record) {
@@ -55,12 +63,14 @@ void CPvwIOInstanceCtrl::SetLeafImage(HTREEITEM item, const CIORec& record) {
 }
 
 void CPvwIOInstanceCtrl::FillTree(bool openAll) {
+  const platform::HWND self = GetHandle();
   for (std::size_t i = 0; CIORec* const module = m_pIOData->GetModule(i); ++i) {
     if (!IsVisibleHere(*module)) continue;
     const HTREEITEM row = InsertRow(*module, platform::kTreeRoot);
     if (m_paneIndex != 0) continue;
     if (module->AreChildrenKnown()) {
       AddChildRows(*module, row);
+      if (IsGone(self)) return;
     } else {
       m_tree.SetItemFlag(m_tree.InsertItem(kPlaceholderName, kPage, row), true);
     }
@@ -72,6 +82,7 @@ bool CPvwIOInstanceCtrl::AddChildRows(CIORec& record, HTREEITEM parent) {
   // The rows of a module are made in one go, against one state of the file. Selections nest as deep as their
   // text says, so the walk keeps its own stack.
   const CIODataFile::Reading reading(*m_pIOFile);
+  const platform::HWND self = GetHandle();
   struct Level {
     CIORec* record;
     HTREEITEM row;
@@ -94,6 +105,7 @@ bool CPvwIOInstanceCtrl::AddChildRows(CIORec& record, HTREEITEM parent) {
     if (!child.AreChildrenKnown()) {
       // A fault of the file has been told to the user; the row shows what could be read.
       std::ignore = child.LoadChildren(m_pIOFile, nullptr);
+      if (IsGone(self)) return added;
       ApplySelectionToRow(row, child);
       if (HasNoChildren(child)) {
         SetLeafImage(row, child);
@@ -127,27 +139,32 @@ void CPvwIOInstanceCtrl::ApplySelectionToRow(HTREEITEM item, CIORec& record) {
 
 void CPvwIOInstanceCtrl::OpenSelectedRows(bool openAll) {
   const platform::WaitCursor wait;
+  const platform::HWND self = GetHandle();
   HTREEITEM row = m_tree.GetRootItem();
   while (row != 0) {
     const HTREEITEM next = m_tree.GetNextSiblingItem(row);
     if (CIORec* const record = FindRecord(row)) FillSelectedRow(row, *record);
+    if (IsGone(self)) return;
     row = next;
   }
   if (openAll && !IsTargetRunning()) OpenRows();
 }
 
 void CPvwIOInstanceCtrl::FillSelectedRow(HTREEITEM item, CIORec& record) {
+  const platform::HWND self = GetHandle();
   if (!record.AreChildrenKnown()) {
-    if (!record.LoadChildren(m_pIOFile, nullptr)) {
+    const bool loaded = record.LoadChildren(m_pIOFile, nullptr);
+    if (IsGone(self)) return;
+    if (!loaded) {
       SetLeafImage(item, record);
       return;
     }
     ApplySelectionToRow(item, record);
     AddChildRows(record, item);
-    if (HasNoChildren(record)) SetLeafImage(item, record);
+    if (!IsGone(self) && HasNoChildren(record)) SetLeafImage(item, record);
     return;
   }
-  if (AddChildRows(record, item)) return;
+  if (AddChildRows(record, item) || IsGone(self)) return;
   // Nothing of the module is selected any more.
   m_itemMap.erase(item);
   m_tree.DeleteItem(item);
@@ -155,10 +172,13 @@ void CPvwIOInstanceCtrl::FillSelectedRow(HTREEITEM item, CIORec& record) {
 }
 
 void CPvwIOInstanceCtrl::OpenRows() {
+  const platform::HWND self = GetHandle();
   for (HTREEITEM row = m_tree.GetRootItem(); row != 0; row = m_tree.GetNextSiblingItem(row)) {
     m_tree.Expand(row, platform::TVE_EXPAND);
+    if (IsGone(self)) return;
     for (HTREEITEM child = m_tree.GetChildItem(row); child != 0; child = m_tree.GetNextSiblingItem(child)) {
       m_tree.Expand(child, platform::TVE_EXPAND);
+      if (IsGone(self)) return;
     }
   }
 }
@@ -188,36 +208,51 @@ platform::LRESULT CPvwIOInstanceCtrl::OnItemExpanding(platform::NMHDR& header) {
   const auto& notification = reinterpret_cast<const platform::NMTREEVIEW&>(header);
   CIORec* const record = FindRecord(notification.item);
   if (record == nullptr) return 1;
+  const platform::HWND self = GetHandle();
   if (notification.action == platform::TVE_EXPAND) OpenRow(notification.item, *record);
+  if (IsGone(self)) return 1;
   if (notification.action == platform::TVE_COLLAPSE) CloseRow(notification.item, *record);
   m_pFrame->SetSessionDirty();
   return 0;
 }
 
 void CPvwIOInstanceCtrl::OpenRow(HTREEITEM item, CIORec& record) {
+  const platform::HWND self = GetHandle();
   if (!record.IsMissing()) m_tree.SetItemImage(item, kOpenFolder);
   if (record.AreChildrenKnown() && HasRealChildren(item)) {
     record.SetExpanded(true);
     std::ignore = record.ReadValue(debugger);
-    UpdateRowValues(item);
+    if (IsGone(self)) {
+      record.SetExpanded(false);
+    } else {
+      UpdateRowValues(item);
+    }
     return;
   }
   ReadChildren(item, record);
+  if (IsGone(self)) return;
   // A row that has nothing below it doesn't open, so it mustn't count as open either.
   if (!m_tree.ItemHasChildren(item)) record.SetExpanded(false);
 }
 
 void CPvwIOInstanceCtrl::ReadChildren(HTREEITEM item, CIORec& record) {
   if (const HTREEITEM placeholder = m_tree.GetChildItem(item)) m_tree.DeleteItem(placeholder);
+  const platform::HWND self = GetHandle();
   bool loaded = true;
   if (record.AreChildrenKnown()) {
     std::ignore = record.ReadValue(debugger);
   } else {
     loaded = record.LoadChildren(m_pIOFile, debugger);
+    if (IsGone(self)) return;
     ApplySelectionToRow(item, record);
   }
+  if (IsGone(self)) return;
   record.SetExpanded(true);
   if (loaded) AddChildRows(record, item);
+  if (IsGone(self)) {
+    record.SetExpanded(false);
+    return;
+  }
   if (!loaded || HasNoChildren(record)) SetLeafImage(item, record);
 }
 

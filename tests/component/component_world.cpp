@@ -74,20 +74,28 @@ void World::OpenView() {
 }
 
 bool World::CanOpenView() const {
-  platform::CWnd* const sink = platform::CWnd::FromHandle(
-      host.Registered(IID_IQIOServer) != nullptr ? const_cast<FakeHost&>(host).Ui().SinkOf(kOpenView) : 0);
+  platform::CWnd* const sink = platform::CWnd::FromHandle(const_cast<FakeHost&>(host).Ui().SinkOf(kOpenView));
   platform::CCmdUI ui(kOpenView);
   EXPECT_TRUE(sink != nullptr && sink->UpdateCommand(ui));
   return ui.IsEnabled();
 }
 
+std::size_t World::PaneCount() {
+  return Dock() != nullptr ? host.Ui().Pages(Dock()->window->GetHandle()).size() : 0;
+}
+
+platform::HWND World::Pane(std::size_t pane) {
+  return pane < PaneCount() ? host.Ui().Pages(Dock()->window->GetHandle())[pane].window : 0;
+}
+
 platform::SECTreeCtrl* World::Grid(std::size_t pane) {
-  if (Dock() == nullptr) return nullptr;
-  const auto pages = host.Ui().Pages(Dock()->window->GetHandle());
-  if (pane >= pages.size()) return nullptr;
-  const platform::CWnd* const window = platform::CWnd::FromHandle(pages[pane].window);
+  const platform::CWnd* const window = platform::CWnd::FromHandle(Pane(pane));
   if (window == nullptr || window->GetChildren().empty()) return nullptr;
   return dynamic_cast<platform::SECTreeCtrl*>(window->GetChildren().front());
+}
+
+platform::LRESULT World::TellSink(platform::UINT message, platform::HWND pane) {
+  return platform::SendMessage(host.Ui().SinkOf(kOpenView), message, pane);
 }
 
 std::vector<std::string> World::Rows(std::size_t pane) {

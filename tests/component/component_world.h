@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/component_clients.h"
@@ -86,7 +88,12 @@ class World {
   // What the update handler says of it.
   bool CanOpenView() const;
   FakeDockWindow* Dock() { return host.Ui().Dock(kIdentity); }
+  std::size_t PaneCount();
+  // Null for a pane that isn't there.
+  platform::HWND Pane(std::size_t pane);
   platform::SECTreeCtrl* Grid(std::size_t pane);
+  // Sends what the host tells of a pane.
+  platform::LRESULT TellSink(platform::UINT message, platform::HWND pane);
   // The rows that aren't under a closed one: "PDATA 10", with the value where there is one.
   std::vector<std::string> Rows(std::size_t pane);
   // Opens the pane's row at that index.
@@ -113,9 +120,13 @@ class ComponentTest : public testing::Test {
   ComponentTest();
   ~ComponentTest() override;
 
-  std::vector<std::string> user;  // what the user saw and heard, line by line
+  std::function<void()> meanwhile;  // happens once, while the user sees the next line
+  std::vector<std::string> user;    // what the user saw and heard, line by line
   platform::HeadlessDisplay display{platform::HeadlessDisplay::Unanswered::Cancel,
-                                    [this](const std::string& line) { user.push_back(line); }};
+                                    [this](const std::string& line) {
+                                      user.push_back(line);
+                                      if (meanwhile) std::exchange(meanwhile, {})();
+                                    }};
   platform::CWnd main;
   ComponentFile file;
 };

@@ -23,54 +23,29 @@ using testing::IsEmpty;
 
 const std::string kFile = BINARY_DIR "/bin/PvwIO.dll";
 
-std::vector<std::string> LinesOf(const std::string& command) {
-  std::vector<std::string> lines;
+// What the command writes, word by word.
+std::set<std::string> WordsOf(const std::string& command) {
+  std::set<std::string> words;
   std::FILE* const pipe = ::popen(command.c_str(), "r");
-  if (pipe == nullptr) return {"can't run " + command};
-  char line[4096];
-  while (std::fgets(line, sizeof line, pipe) != nullptr) {
-    std::string text(line);
-    while (!text.empty() && text.back() == '\n') text.pop_back();
-    lines.push_back(text);
-  }
-  ::pclose(pipe);
-  return lines;
+  char word[4096];
+  while (pipe != nullptr && std::fscanf(pipe, "%4095s", word) == 1) words.insert(word);
+  if (pipe != nullptr) ::pclose(pipe);
+  return words;
 }
 
-TEST(ComponentFileTest, ShowsItsFiveNamesAndNothingElse) {
-  std::vector<std::string> names;
-  for (const std::string& line : LinesOf("nm -D --defined-only '" + kFile + "'")) {
-    names.push_back(line.substr(line.rfind(' ') + 1));
-  }
-  std::ranges::sort(names);
-  EXPECT_THAT(names, ElementsAre("CreateInstance", "DestroyInstance", "GetComponentVersion",
-                                 "LibraryRegister2", "QueryInterface2"));
-}
+TEST(ComponentFileTest, ShowsItsFiveNamesAndNeedsThePlatformAndTheStandardLibraryAlone) {
+  EXPECT_THAT(WordsOf("nm -D --defined-only --format=posix '" + kFile + "' | cut -d' ' -f1"),
+              ElementsAre("CreateInstance", "DestroyInstance", "GetComponentVersion", "LibraryRegister2",
+                          "QueryInterface2"));
 
-TEST(ComponentFileTest, NeedsThePlatformAndTheStandardLibraryAlone) {
-  std::vector<std::string> other;
-  bool platform_seen = false;
-  for (const std::string& line : LinesOf("readelf -d '" + kFile + "'")) {
-    if (line.find("(NEEDED)") == std::string::npos) continue;
-    const std::string name = line.substr(line.find('[') + 1, line.find(']') - line.find('[') - 1);
-    const std::string plain = name.substr(0, name.find(".so"));
-    platform_seen |= plain == "libplatform";
-    const std::set<std::string> allowed = {"libplatform", "libstdc++", "libgcc_s", "libm",
-                                           "libc",        "libasan",   "libubsan", "ld-linux-x86-64"};
-    if (!allowed.contains(plain)) other.push_back(name);
+  std::set<std::string> needed =
+      WordsOf("readelf -d '" + kFile + "' | sed -n 's/.*(NEEDED).*\\[\\(.*\\)\\.so.*/\\1/p'");
+  EXPECT_TRUE(needed.erase("libplatform"));
+  for (const char* standard :
+       {"libstdc++", "libgcc_s", "libm", "libc", "libasan", "libubsan", "ld-linux-x86-64"}) {
+    needed.erase(standard);
   }
-  EXPECT_TRUE(platform_seen);
-  EXPECT_THAT(other, IsEmpty());
-}
-
-TEST(ComponentFileTest, GoesWhenItsLastUserFreesIt) {
-  const void* inside = nullptr;
-  {
-    const ComponentFile file;
-    inside = reinterpret_cast<const void*>(file.CreateInstance);
-    EXPECT_EQ(platform::ModuleOf(inside), file.module);
-  }
-  EXPECT_EQ(platform::ModuleOf(inside), nullptr);
+  EXPECT_THAT(needed, IsEmpty());
 }
 
 class Registrar final : public IQLibraryRegistrar {
@@ -89,16 +64,22 @@ class Registrar final : public IQLibraryRegistrar {
   std::string said;
 };
 
-TEST(ComponentFileTest, TellsWhatItIsBeforeThereIsAnInstance) {
-  const ComponentFile file;
-  std::uint32_t major = 77, minor = 77;
-  EXPECT_EQ(file.GetComponentVersion(&major, &minor), S_OK);
-  EXPECT_EQ(major, 1u);
-  EXPECT_EQ(minor, 0u);
+TEST(ComponentFileTest, TellsWhatItIsBeforeThereIsAnInstanceAndGoesWithItsLastUser) {
+  const void* inside = nullptr;
+  {
+    const ComponentFile file;
+    std::uint32_t major = 77, minor = 77;
+    EXPECT_EQ(file.GetComponentVersion(&major, &minor), S_OK);
+    EXPECT_EQ(major, 1u);
+    EXPECT_EQ(minor, 0u);
 
-  Registrar registrar;
-  EXPECT_EQ(file.LibraryRegister2(&registrar), S_OK) << "the host's refusal isn't looked at";
-  EXPECT_EQ(registrar.said, "Generic PVW IO|14 2 1 0 {80D58C53-E47D-11D3-8AF5-00AA0026624A}");
+    Registrar registrar;
+    EXPECT_EQ(file.LibraryRegister2(&registrar), S_OK) << "the host's refusal isn't looked at";
+    EXPECT_EQ(registrar.said, "Generic PVW IO|14 2 1 0 {80D58C53-E47D-11D3-8AF5-00AA0026624A}");
+    inside = reinterpret_cast<const void*>(file.CreateInstance);
+    EXPECT_EQ(platform::ModuleOf(inside), file.module);
+  }
+  EXPECT_EQ(platform::ModuleOf(inside), nullptr);
 }
 
 TEST(ComponentFileTest, KeepsAControlForEachHandle) {
@@ -128,48 +109,35 @@ TEST(ComponentFileTest, KeepsAControlForEachHandle) {
   EXPECT_EQ(file.DestroyInstance(&b), S_OK);
 }
 
-struct Id {
-  const char* name;
-  GUID id;
-};
-// All that the component implements somewhere, and one that it asks of its host.
-const Id kIds[] = {{"IUnknown", IID_IUnknown},
-                   {"IQRegistryClient", IID_IQRegistryClient},
-                   {"IQComponent", IID_IQComponent},
-                   {"CLSID_PvwIO", CLSID_PvwIO},
-                   {"IQErrorReporter", IID_IQErrorReporter},
-                   {"IQSteppingClient", IID_IQSteppingClient},
-                   {"IQTestComponentGroup", IID_IQTestComponentGroup},
-                   {"IQUpdateWindowClient", IID_IQUpdateWindowClient},
-                   {"IQWorkSpaceClient", IID_IQWorkSpaceClient},
-                   {"IQWorkSpaceClient2", IID_IQWorkSpaceClient2},
-                   {"IQFormatViewClient", IID_IQFormatViewClient},
-                   {"IQFormatViewClient2", IID_IQFormatViewClient2},
-                   {"IQIOServer", IID_IQIOServer},
-                   {"IQTestClient", IID_IQTestClient},
-                   {"IQClientDetails", IID_IQClientDetails},
-                   {"IQEnhancedClient", IID_IQEnhancedClient},
-                   {"IQSettings", IID_IQSettings}};
-
-// "IQComponent=1": a face, numbered as it is first given; "IQSettings-": the status is no, and null comes
-// out.
+// What the ids that a component may be asked for give: "IQComponent=1" is a face, numbered as it is first
+// given. Where there is none, null has to come out.
 template <typename Ask>
-std::vector<std::string> AnswersOf(Ask ask) {
+std::vector<std::string> FacesOf(Ask ask) {
+  const std::pair<const char*, GUID> ids[] = {{"IUnknown", IID_IUnknown},
+                                              {"IQRegistryClient", IID_IQRegistryClient},
+                                              {"IQComponent", IID_IQComponent},
+                                              {"CLSID_PvwIO", CLSID_PvwIO},
+                                              {"IQErrorReporter", IID_IQErrorReporter},
+                                              {"IQSteppingClient", IID_IQSteppingClient},
+                                              {"IQTestComponentGroup", IID_IQTestComponentGroup},
+                                              {"IQUpdateWindowClient", IID_IQUpdateWindowClient},
+                                              {"IQWorkSpaceClient", IID_IQWorkSpaceClient},
+                                              {"IQWorkSpaceClient2", IID_IQWorkSpaceClient2},
+                                              {"IQFormatViewClient", IID_IQFormatViewClient},
+                                              {"IQFormatViewClient2", IID_IQFormatViewClient2},
+                                              {"IQIOServer", IID_IQIOServer},
+                                              {"IQSettings", IID_IQSettings}};
   std::vector<std::string> answers;
   std::vector<void*> faces;
   int before = 0;
-  for (const Id& id : kIds) {
+  for (const auto& [name, id] : ids) {
     void* out = &before;
-    const Status status = ask(&id.id, &out);
-    if (status == E_NOINTERFACE && out == nullptr) {
-      answers.push_back(std::string(id.name) + "-");
-      continue;
-    }
-    EXPECT_EQ(status, S_OK) << id.name;
+    const Status status = ask(&id, &out);
+    EXPECT_EQ(status, out == nullptr ? E_NOINTERFACE : S_OK) << name;
+    if (out == nullptr) continue;
     const auto known = std::ranges::find(faces, out);
-    const auto number = known - faces.begin() + 1;
+    answers.push_back(name + ("=" + std::to_string(known - faces.begin() + 1)));
     if (known == faces.end()) faces.push_back(out);
-    answers.push_back(id.name + ("=" + std::to_string(number)));
   }
   return answers;
 }
@@ -177,38 +145,29 @@ std::vector<std::string> AnswersOf(Ask ask) {
 class FacesTest : public test::ConnectedTest {};
 
 TEST_F(FacesTest, OfTheControlAreTheSameFromEachOfThem) {
-  const auto expected =
-      ElementsAre("IUnknown=1", "IQRegistryClient=1", "IQComponent=2", "CLSID_PvwIO=2", "IQErrorReporter=3",
-                  "IQSteppingClient=4", "IQTestComponentGroup=5", "IQUpdateWindowClient-",
-                  "IQWorkSpaceClient-", "IQWorkSpaceClient2-", "IQFormatViewClient-", "IQFormatViewClient2-",
-                  "IQIOServer-", "IQTestClient-", "IQClientDetails-", "IQEnhancedClient-", "IQSettings-");
-  EXPECT_THAT(AnswersOf([&](const GUID* id, void** out) { return file.QueryInterface2(&instance, id, out); }),
+  const auto expected = ElementsAre("IUnknown=1", "IQRegistryClient=1", "IQComponent=2", "CLSID_PvwIO=2",
+                                    "IQErrorReporter=3", "IQSteppingClient=4", "IQTestComponentGroup=5");
+  EXPECT_THAT(FacesOf([&](const GUID* id, void** out) { return file.QueryInterface2(&instance, id, out); }),
               expected);
   for (const GUID& id : {IID_IQRegistryClient, IID_IQComponent, IID_IQErrorReporter, IID_IQSteppingClient,
                          IID_IQTestComponentGroup}) {
+    SCOPED_TRACE(platform::GuidText(id));
     auto* const face = instance.Face<IQUnknown>(id);
-    EXPECT_THAT(AnswersOf([&](const GUID* iid, void** out) { return face->QueryInterface(iid, out); }),
-                expected)
-        << platform::GuidText(id);
+    EXPECT_THAT(FacesOf([&](const GUID* iid, void** out) { return face->QueryInterface(iid, out); }),
+                expected);
     EXPECT_EQ(face->AddRef(), 1u);
     EXPECT_EQ(face->Release(), 0u);
     EXPECT_EQ(face->Release(), 0u);
   }
-  EXPECT_EQ(instance.Face<IQComponent>(IID_IQComponent)->Reserved6(1), S_OK);
-  EXPECT_EQ(instance.Face<IQComponent>(IID_IQComponent)->Reserved7(1), S_OK);
-  EXPECT_EQ(instance.Face<IQRegistryClient>(IID_IQRegistryClient)->Reserved4(1), S_OK);
   EXPECT_EQ(world.Stepping(), instance.Face<IQSteppingClient>(IID_IQSteppingClient));
 }
 
 TEST_F(FacesTest, OfTheFrameAreTheClientsOfWorkspaceAndUpdate) {
   IQUnknown* const faces[] = {world.Sessions(), world.Format(), world.Update(), world.Server()};
   for (IQUnknown* face : faces) {
-    EXPECT_THAT(AnswersOf([&](const GUID* iid, void** out) { return face->QueryInterface(iid, out); }),
-                ElementsAre("IUnknown=1", "IQRegistryClient-", "IQComponent-", "CLSID_PvwIO-",
-                            "IQErrorReporter-", "IQSteppingClient-", "IQTestComponentGroup-",
-                            "IQUpdateWindowClient=2", "IQWorkSpaceClient=1", "IQWorkSpaceClient2=1",
-                            "IQFormatViewClient-", "IQFormatViewClient2-", "IQIOServer-", "IQTestClient-",
-                            "IQClientDetails-", "IQEnhancedClient-", "IQSettings-"));
+    EXPECT_THAT(
+        FacesOf([&](const GUID* iid, void** out) { return face->QueryInterface(iid, out); }),
+        ElementsAre("IUnknown=1", "IQUpdateWindowClient=2", "IQWorkSpaceClient=1", "IQWorkSpaceClient2=1"));
     EXPECT_EQ(face->AddRef(), 1u);
     EXPECT_EQ(face->Release(), 0u);
   }
@@ -229,11 +188,10 @@ TEST_F(FacesTest, OfTheTestGroupHaveItsNameAndItsPictureTwice) {
   EXPECT_EQ(group->GetGroupBitmaps(first.Receive(), second.Receive()), S_OK);
   const auto bytes_of = [](const platform::VARIANT& list) {
     EXPECT_EQ(list.vt, 8209);
-    std::vector<int> bytes;
-    for (std::size_t i = 0; i < platform::SafeArrayGetCount(list.parray); ++i) {
-      const platform::VARIANT* const element = platform::SafeArrayVariantAt(list.parray, i);
-      EXPECT_EQ(element->vt, platform::VT_UI1);
-      bytes.push_back(element->bVal);
+    std::vector<int> bytes(platform::SafeArrayGetCount(list.parray));
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+      EXPECT_EQ(platform::SafeArrayVariantAt(list.parray, i)->vt, platform::VT_UI1);
+      bytes[i] = platform::SafeArrayVariantAt(list.parray, i)->bVal;
     }
     return bytes;
   };
