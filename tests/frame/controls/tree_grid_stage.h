@@ -47,7 +47,12 @@ class TreeGridStage : public testing::Test {
     tree.Create(
         {platform::WS_CHILD | platform::WS_VISIBLE, 0, {0, 0, 400, 90}, owner.GetHandle(), 200, {}, 0});
     tree.SetTreeStyle(platform::SECTreeCtrl::kHasButtons | platform::SECTreeCtrl::kHeaderMenu);
-    SetColumns(tree);
+    tree.SetHeaderShown(true);
+    tree.SetColumnTitle(0, "Name");
+    tree.SetColumnWidth(0, 200);
+    int column = 0;
+    for (const char* title : {"Address", "Value", "Access"})
+      tree.InsertColumn(++column, title, platform::TextAlign::Left, 100);
     host.ClearTranscript();
   }
   ~TreeGridStage() override {
@@ -55,14 +60,6 @@ class TreeGridStage : public testing::Test {
     platform::SetDisplay(nullptr);
   }
 
-  static void SetColumns(CTreeGridCtrl& grid) {
-    grid.SetHeaderShown(true);
-    grid.SetColumnTitle(0, "Name");
-    grid.SetColumnWidth(0, 200);
-    grid.InsertColumn(1, "Address", platform::TextAlign::Left, 100);
-    grid.InsertColumn(2, "Value", platform::TextAlign::Left, 100);
-    grid.InsertColumn(3, "Access", platform::TextAlign::Left, 100);
-  }
   static void SetWidths(CTreeGridCtrl& grid, const std::vector<int>& widths) {
     for (int i = 0; i < grid.GetColumnCount(); ++i)
       grid.SetColumnWidth(i, widths.at(static_cast<std::size_t>(i)));

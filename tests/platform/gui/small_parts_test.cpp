@@ -1,4 +1,4 @@
-// The parts of the window layer that stand alone: pictures and keys.
+// The parts of the window layer that stand alone: pictures, keys, and where input goes.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,6 +7,9 @@
 #include "platform/gui/graphics.h"
 #include "platform/gui/messages.h"
 #include "platform/gui/mnemonic.h"
+#include "platform/gui/window.h"
+#include "platform/headless/headless_display.h"
+#include "platform/headless/user.h"
 
 namespace platform {
 namespace {
@@ -47,6 +50,35 @@ TEST(MnemonicTest, TheLetterBehindTheAmpersand) {
   const Row rows[] = {{"&New value:", 'N'}, {"Browse&...", 0}, {"F&ind:", 'I'},    {"Save && &close", 'C'},
                       {"a &1", '1'},        {"plain", 0},      {"at the end&", 0}, {"&&", 0}};
   for (const Row& row : rows) EXPECT_EQ(FindMnemonic(row.text), row.key) << row.text;
+}
+
+TEST(InputTest, AnyWindowKnowsWhereItHappenedAndUnclaimedKeysAreTheHosts) {
+  struct CAsking : CWnd {
+    LRESULT WindowProc(const MSG& msg) override {
+      if (msg.message == WM_LBUTTONDOWN) above = GetMessagePos(*GetParent());
+      if (msg.message == WM_CONTEXTMENU) menu = ParamPoint(msg.lParam);
+      return CWnd::WindowProc(msg);
+    }
+    POINT above, menu;
+  } holder, pane;
+  HeadlessDisplay display(HeadlessDisplay::Unanswered::Fail);
+  SetDisplay(&display);
+  holder.Create({.style = WS_POPUP | WS_VISIBLE, .rect = {10, 20, 90, 90}});
+  pane.Create({.rect = {3, 4, 60, 60}, .parent = holder.GetHandle()});
+  user::Click(pane, {1, 2});
+  EXPECT_EQ(pane.above, (POINT{4, 6}));
+  EXPECT_EQ(GetMessagePos(pane), (POINT{0, 0})) << "outside of any message";
+  user::RightClick(pane, {1, 2});
+  EXPECT_EQ(holder.menu, (POINT{4, 6})) << "a context menu is asked of the parents, in their coordinates";
+
+  SetFocus(0);
+  EXPECT_FALSE(gui::Input({0, WM_KEYDOWN, VK_F3}));
+  {
+    const gui::ModalScope modal(0);
+    EXPECT_TRUE(gui::Input({0, WM_KEYDOWN, VK_F3})) << "but not behind a dialog";
+  }
+  holder.DestroyWindow();
+  SetDisplay(nullptr);
 }
 
 }  // namespace

@@ -19,6 +19,14 @@ TEST_F(TreeCtrl, OpeningAndClosingAsksTheOwnerOnceAndKeepsWhatIsBelow) {
   EXPECT_EQ(Story(), "TVN_ITEMEXPANDING B expand, TVN_ITEMEXPANDING A expand");
   Answer(TVN_ITEMEXPANDING, 1);
   EXPECT_FALSE(tree.Expand(Item("A"), TVE_COLLAPSE)) << "it was refused";
+  Answer(TVN_ITEMEXPANDING, 0);
+  tree.SelectItem(Item("C"));
+  Story();
+  tree.Expand(Item("A"), TVE_COLLAPSE);
+  EXPECT_EQ(Story(), "TVN_ITEMEXPANDING A collapse, TVN_SELCHANGED A") << "a selection below goes to the row";
+  EXPECT_EQ(Rows(), "+A<\n.D\n");
+  tree.Expand(Item("A"), TVE_EXPAND);
+  tree.SelectItem(0);
   EXPECT_EQ(Rows(), "-A\n  -B\n    .C\n.D\n");
   tree.DeleteItem(Item("C"));
   tree.InsertItem("E", 2, Item("B"));
@@ -52,18 +60,6 @@ TEST_F(TreeCtrl, TheOwnerMayChangeTheRowsWhileOneOpens) {
   }
 }
 
-TEST_F(TreeCtrl, ClosingTakesASelectionBelowToTheRow) {
-  Fill("A\n  B\n    C\nD\n  E\n");
-  for (const char* name : {"A", "B", "D"}) tree.Expand(Item(name), TVE_EXPAND);
-  tree.SelectItem(Item("C"));
-  Story();
-  tree.Expand(Item("D"), TVE_COLLAPSE);
-  EXPECT_EQ(tree.GetSelectedItem(), Item("C"));
-  tree.Expand(Item("A"), TVE_COLLAPSE);
-  EXPECT_EQ(tree.GetSelectedItem(), Item("A"));
-  EXPECT_EQ(Story(), "TVN_ITEMEXPANDING D collapse, TVN_ITEMEXPANDING A collapse, TVN_SELCHANGED A");
-}
-
 TEST_F(TreeCtrl, AStaleRowFindsNothing) {
   Fill("A|text\n  B\nC\n");
   tree.SelectItem(Item("B"));
@@ -93,11 +89,9 @@ TEST_F(TreeCtrl, CellsAndColumnsHoldOddValues) {
   tree.SetItemText(Item("A"), 3, tree.GetItemText(Item("A"), 0));
   EXPECT_EQ(tree.GetItemText(Item("A"), 3), "A") << "its own text, moved meanwhile";
   for (const int column : {-1, 1'000'000}) tree.SetItemText(Item("A"), column, "x");
-  for (int width : {-2147483647 - 1, 2147483647}) {
-    tree.SetColumnWidth(1, width);
-    EXPECT_EQ(tree.GetColumnWidth(1), width < 0 ? 0 : 32767);
-  }
-  for (int i = 0; i < 30; ++i) tree.InsertColumn(99, "more", TextAlign::Left, 10);
+  tree.SetColumnWidth(1, -2147483647 - 1);
+  EXPECT_EQ(tree.GetColumnWidth(1), 0);
+  for (int i = 0; i < 30; ++i) tree.InsertColumn(99, "more", TextAlign::Left, 2147483647);
   EXPECT_EQ(tree.GetColumnCount(), SECTreeCtrl::kMostColumns);
 }
 
@@ -113,14 +107,11 @@ TEST_F(TreeCtrl, ScrollPositionsStayInRange) {
   EXPECT_EQ(rows_after(WM_VSCROLL, -5), 0);
   tree.EnsureVisible(tree.GetItemAtRow(15));
   EXPECT_EQ(tree.GetScrollPos(true), 5);
-  tree.SelectItem(tree.GetItemAtRow(2));
-  EXPECT_EQ(tree.GetScrollPos(true), 2);
-
   tree.SetColumnWidth(1, 400);
   tree.Send(WM_HSCROLL, 1000);
   EXPECT_EQ(tree.GetScrollPos(false), 280);
   tree.MoveWindow({0, 0, 700, 20 + 17 * 19});
-  EXPECT_EQ(tree.GetScrollPos(false), 100);
+  EXPECT_EQ(tree.GetScrollPos(false), 100) << "a larger window leaves less to scroll";
   EXPECT_EQ(tree.GetScrollPos(true), 1);
 }
 

@@ -122,34 +122,30 @@ TEST_F(TreeEdit, OpensOnlyWhatShowsAndIsAllowed) {
     tree.DeleteItem(Item("B"));
   });
   EXPECT_FALSE(tree.EditCell(Item("B"), 2)) << "deleted in the notification";
+  Answer(LVN_BEGINLABELEDIT, 0, [&] { tree.DestroyWindow(); });
+  EXPECT_FALSE(tree.EditCell(Item("D"), 2)) << "the grid went in the notification";
   Reset();
   tree.SetColumnWidth(1, 0);
   for (const int column : {-1, 1, 4}) EXPECT_FALSE(tree.EditCell(Item("B"), column)) << "hidden or not there";
   tree.Expand(Item("A"), TVE_COLLAPSE);
   EXPECT_FALSE(tree.EditCell(Item("B"), 2)) << "under a closed row";
   EXPECT_EQ(Story(), "TVN_ITEMEXPANDING A collapse") << "nobody was asked";
-  Answer(LVN_BEGINLABELEDIT, 0, [&] { tree.DestroyWindow(); });
-  EXPECT_FALSE(tree.EditCell(Item("D"), 2)) << "the grid went in the notification";
 }
 
 TEST_F(TreeEdit, FollowsItsCell) {
   for (int i = 0; i < 30; ++i) tree.InsertItem("more", 2);
   Open();
-  const RECT place = tree.GetListEdit()->GetRect();
-  EXPECT_EQ(place, tree.GetCellRect(Item("B"), 2));
+  const auto place = [&] { return tree.GetListEdit()->GetRect(); };
   tree.SetColumnWidth(0, 150);
-  EXPECT_EQ(tree.GetListEdit()->GetRect(),
-            (RECT{place.left - 50, place.top, place.right - 50, place.bottom}));
   tree.SetScrollPos(true, 1);
-  EXPECT_EQ(tree.GetListEdit()->GetRect().top, place.top - 17);
+  EXPECT_EQ(place(), tree.GetCellRect(Item("B"), 2));
   tree.SetScrollPos(true, 2);
-  EXPECT_TRUE(tree.GetListEdit()->GetRect().IsEmpty()) << "under the header";
+  EXPECT_TRUE(place().IsEmpty()) << "under the header";
   EXPECT_TRUE(tree.IsEditing());
 
-  tree.EndEdit();
   tree.SetColumnWidth(0, 700);
   EXPECT_TRUE(tree.EditCell(tree.GetItemAtRow(20), 2));
-  EXPECT_EQ(tree.GetListEdit()->GetRect().Width(), 100) << "scrolled into view";
+  EXPECT_EQ(place().Width(), 100) << "scrolled into view";
   EXPECT_TRUE(tree.EditCell(tree.GetItemAtRow(20), 0));
   EXPECT_EQ(tree.GetScrollPos(false), 0) << "and back";
 }

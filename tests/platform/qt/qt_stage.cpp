@@ -24,13 +24,10 @@ class ToldDisplay final : public QtDisplay {
  public:
   void RunLoop(CWnd& modal, const std::function<void()>& opened, const bool& done) override {
     Note("dialog: " + modal.GetText());
-    auto steps = std::make_shared<Steps>();
-    if (m_answers.empty()) {
-      ADD_FAILURE() << "no answer is left for a dialog";
-    } else {
-      *steps = std::move(m_answers.front());
-      m_answers.pop_front();
-    }
+    EXPECT_FALSE(m_answers.empty()) << "no answer is left for a dialog";
+    if (m_answers.empty()) m_answers.emplace_back();
+    const auto steps = std::make_shared<Steps>(std::move(m_answers.front()));
+    m_answers.pop_front();
     const HWND handle = modal.GetHandle();
     QtDisplay::RunLoop(
         modal,
@@ -67,10 +64,8 @@ class ToldDisplay final : public QtDisplay {
       EXPECT_EQ(next, steps->size()) << "steps are left over behind a dialog's end";
       return;
     }
-    if (next == steps->size()) {
-      // Ended, or somebody else is about to end it.
-      return;
-    }
+    // Ended, or somebody else is about to end it.
+    if (next == steps->size()) return;
     user::Settle();
     (*steps)[next](static_cast<CDialog&>(*window));
     Later([this, handle, steps, next] { Step(handle, steps, next + 1); });

@@ -37,21 +37,17 @@ class Application final : public testing::Environment {
     testing::AddGlobalTestEnvironment(new Application);
 
 Qt::KeyboardModifiers QtModifiers(UINT modifiers) {
-  Qt::KeyboardModifiers all;
-  all.setFlag(Qt::ShiftModifier, (modifiers & MK_SHIFT) != 0);
-  all.setFlag(Qt::ControlModifier, (modifiers & MK_CONTROL) != 0);
-  all.setFlag(Qt::AltModifier, (modifiers & MK_ALT) != 0);
-  return all;
+  return ((modifiers & MK_SHIFT) != 0 ? Qt::ShiftModifier : Qt::NoModifier) |
+         ((modifiers & MK_CONTROL) != 0 ? Qt::ControlModifier : Qt::NoModifier) |
+         ((modifiers & MK_ALT) != 0 ? Qt::AltModifier : Qt::NoModifier);
 }
 
 Qt::Key QtKey(UINT key) {
   static const std::map<UINT, Qt::Key> keys = {
-      {VK_BACK, Qt::Key_Backspace}, {VK_TAB, Qt::Key_Tab},      {VK_RETURN, Qt::Key_Return},
-      {VK_ESCAPE, Qt::Key_Escape},  {VK_END, Qt::Key_End},      {VK_HOME, Qt::Key_Home},
-      {VK_LEFT, Qt::Key_Left},      {VK_UP, Qt::Key_Up},        {VK_RIGHT, Qt::Key_Right},
-      {VK_DOWN, Qt::Key_Down},      {VK_PRIOR, Qt::Key_PageUp}, {VK_NEXT, Qt::Key_PageDown},
-      {VK_DELETE, Qt::Key_Delete},  {VK_ADD, Qt::Key_Plus},     {VK_SUBTRACT, Qt::Key_Minus},
-      {VK_F1, Qt::Key_F1},          {VK_F2, Qt::Key_F2}};
+      {VK_BACK, Qt::Key_Backspace}, {VK_TAB, Qt::Key_Tab}, {VK_RETURN, Qt::Key_Return},
+      {VK_ESCAPE, Qt::Key_Escape},  {VK_END, Qt::Key_End}, {VK_HOME, Qt::Key_Home},
+      {VK_LEFT, Qt::Key_Left},      {VK_UP, Qt::Key_Up},   {VK_DOWN, Qt::Key_Down},
+      {VK_DELETE, Qt::Key_Delete},  {VK_F1, Qt::Key_F1}};
   const auto found = keys.find(key);
   return found != keys.end() ? found->second : static_cast<Qt::Key>(key);
 }
@@ -64,27 +60,17 @@ void SendKey(QTest::KeyAction action, Qt::Key key, const QString& text, Qt::Keyb
   Settle();
 }
 
-// What the key types without a text of its own.
-QString TextOf(UINT key, UINT modifiers) {
-  if ((modifiers & (MK_CONTROL | MK_ALT)) != 0) return {};
-  if (key >= 'A' && key <= 'Z') {
-    const QChar letter(static_cast<char16_t>(key));
-    return (modifiers & MK_SHIFT) != 0 ? letter : letter.toLower();
-  }
-  if (key == VK_ADD) return QStringLiteral("+");
-  if (key == VK_SUBTRACT) return QStringLiteral("-");
-  return (key >= '0' && key <= '9') || key == VK_SPACE ? QString(QChar(static_cast<char16_t>(key)))
-                                                       : QString();
-}
-
-Qt::MouseButton Button(bool right) {
-  return right ? Qt::RightButton : Qt::LeftButton;
-}
-
 QWidget* WidgetAt(CWnd& window) {
   QWidget* widget = QtDisplay::WidgetOf(window);
   EXPECT_NE(widget, nullptr);
   return widget;
+}
+
+void SendMouse(CWnd& window, QEvent::Type type, POINT at, Qt::MouseButton button) {
+  QWidget* widget = WidgetAt(window);
+  const QPointF where(at.x, at.y);
+  QMouseEvent event(type, where, widget->mapToGlobal(where), button, Qt::LeftButton, {});
+  QCoreApplication::sendEvent(widget, &event);
 }
 
 }  // namespace
@@ -104,12 +90,12 @@ void Wait(UINT milliseconds) {
 }
 
 void Press(CWnd& window, POINT at, bool right) {
-  QTest::mousePress(WidgetAt(window), Button(right), {}, QPoint(at.x, at.y));
+  QTest::mousePress(WidgetAt(window), right ? Qt::RightButton : Qt::LeftButton, {}, QPoint(at.x, at.y));
   Settle();
 }
 
 void Release(CWnd& window, POINT at, bool right) {
-  QTest::mouseRelease(WidgetAt(window), Button(right), {}, QPoint(at.x, at.y));
+  QTest::mouseRelease(WidgetAt(window), right ? Qt::RightButton : Qt::LeftButton, {}, QPoint(at.x, at.y));
   Settle();
 }
 
@@ -119,23 +105,15 @@ void Click(CWnd& window, POINT at, bool right) {
 }
 
 void DoubleClick(CWnd& window, POINT at) {
-  QWidget* widget = WidgetAt(window);
-  QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(at.x, at.y));
-  QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(at.x, at.y),
-                     widget->mapToGlobal(QPointF(at.x, at.y)), Qt::LeftButton, Qt::LeftButton, {});
-  QCoreApplication::sendEvent(widget, &second);
-  QTest::mouseRelease(widget, Qt::LeftButton, {}, QPoint(at.x, at.y));
-  Settle();
+  Click(window, at);
+  SendMouse(window, QEvent::MouseButtonDblClick, at, Qt::LeftButton);
+  Release(window, at);
 }
 
 void Drag(CWnd& window, POINT from, POINT to) {
-  QWidget* widget = WidgetAt(window);
-  QTest::mousePress(widget, Qt::LeftButton, {}, QPoint(from.x, from.y));
-  QMouseEvent move(QEvent::MouseMove, QPointF(to.x, to.y), widget->mapToGlobal(QPointF(to.x, to.y)),
-                   Qt::NoButton, Qt::LeftButton, {});
-  QCoreApplication::sendEvent(widget, &move);
-  QTest::mouseRelease(widget, Qt::LeftButton, {}, QPoint(to.x, to.y));
-  Settle();
+  Press(window, from);
+  SendMouse(window, QEvent::MouseMove, to, Qt::NoButton);
+  Release(window, to);
 }
 
 void Wheel(CWnd& window, POINT at, int lines) {
@@ -149,11 +127,11 @@ void Wheel(CWnd& window, POINT at, int lines) {
 }
 
 void KeyDown(UINT key, UINT modifiers) {
-  SendKey(QTest::Press, QtKey(key), TextOf(key, modifiers), QtModifiers(modifiers));
+  SendKey(QTest::Press, QtKey(key), {}, QtModifiers(modifiers));
 }
 
 void KeyUp(UINT key, UINT modifiers) {
-  SendKey(QTest::Release, QtKey(key), TextOf(key, modifiers), QtModifiers(modifiers));
+  SendKey(QTest::Release, QtKey(key), {}, QtModifiers(modifiers));
 }
 
 void Key(UINT key, UINT modifiers) {
@@ -163,11 +141,9 @@ void Key(UINT key, UINT modifiers) {
 
 void Type(std::string_view text) {
   for (const QChar c : qt::ToQt(text)) {
-    const bool shifted = c.isUpper();
     const auto key = static_cast<Qt::Key>(c.toUpper().unicode());
-    const Qt::KeyboardModifiers modifiers = shifted ? Qt::ShiftModifier : Qt::NoModifier;
-    SendKey(QTest::Press, key, QString(c), modifiers);
-    SendKey(QTest::Release, key, QString(c), modifiers);
+    const Qt::KeyboardModifiers modifiers = c.isUpper() ? Qt::ShiftModifier : Qt::NoModifier;
+    for (const auto action : {QTest::Press, QTest::Release}) SendKey(action, key, QString(c), modifiers);
   }
 }
 

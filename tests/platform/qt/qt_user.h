@@ -24,7 +24,7 @@ void DoubleClick(CWnd& window, POINT at);
 void Drag(CWnd& window, POINT from, POINT to);
 void Wheel(CWnd& window, POINT at, int lines);
 
-// To the widget that has Qt's focus; nowhere without one.
+// To the widget that has Qt's focus; nowhere without one. Only Type types characters.
 void KeyDown(UINT key, UINT modifiers = 0);
 void KeyUp(UINT key, UINT modifiers = 0);
 void Key(UINT key, UINT modifiers = 0);

@@ -35,10 +35,7 @@ const ResourceRegistration kRegistration(kTables, ResourceRole::kComponent);
 
 std::string KeyText(WPARAM key) {
   static const std::map<WPARAM, std::string> names = {
-      {VK_BACK, "Back"},   {VK_TAB, "Tab"},     {VK_RETURN, "Enter"}, {VK_ESCAPE, "Escape"},
-      {VK_SPACE, "Space"}, {VK_END, "End"},     {VK_HOME, "Home"},    {VK_LEFT, "Left"},
-      {VK_UP, "Up"},       {VK_RIGHT, "Right"}, {VK_DOWN, "Down"},    {VK_DELETE, "Delete"},
-      {VK_F1, "F1"}};
+      {VK_ESCAPE, "Escape"}, {VK_HOME, "Home"}, {VK_UP, "Up"}, {VK_F1, "F1"}};
   const auto found = names.find(key);
   return found != names.end() ? found->second : std::string(1, static_cast<char>(key));
 }

@@ -19,14 +19,19 @@ TEST_F(Timers, ATimerComesAgainAndAgainUntilItIsKilled) {
   Add(pane, 1);
   int left = 3;
   pane.During(WM_TIMER, [&] {
-    if (--left == 0) KillTimer(pane.GetHandle(), 5);
+    if (--left == 2) MessageBox("Once");
+    if (left == 0) KillTimer(pane.GetHandle(), 5);
+  });
+  stage->InNextBox([&] {
+    stage->Wait(100);
+    EXPECT_LE(left, 0) << "it runs on in the loop that its own handler runs";
   });
   SetTimer(pane.GetHandle(), 1, 10);
   SetTimer(pane.GetHandle(), 1, 60'000);  // replaces it
   SetTimer(pane.GetHandle(), 5, 20);
   EXPECT_EQ(Settled(), "");
   stage->Wait(200);
-  EXPECT_EQ(Story(), "pane TIMER 5\npane TIMER 5\npane TIMER 5\n");
+  EXPECT_EQ(Story(), "pane TIMER 5\nmessage: Once\npane TIMER 5\npane TIMER 5\n");
   pane.During(WM_TIMER, [&] { pane.DestroyWindow(); });
   SetTimer(pane.GetHandle(), 5, 10);
   stage->Wait(50);
