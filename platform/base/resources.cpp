@@ -78,7 +78,7 @@ ResourceRegistration::~ResourceRegistration() {
 }
 
 void SetResourceModule(HMODULE module) {
-  // The image is asked for now: later the module may be gone, and then nothing is found in it.
+  // The image is looked up here: later the module may be gone, and then nothing is found in it.
   TheRegistry().module = module;
   TheRegistry().module_image = ModuleImage(module);
 }
