@@ -140,5 +140,15 @@ TEST_F(RecordTreeTest, TwentyThousandModulesMeetAsManySelectedOnes) {
   EXPECT_EQ(data.GetSelection().size(), std::size_t{kModules});
 }
 
+TEST_F(RecordTreeTest, FlagsGiveTheirOldValueAndAChildOutsideTheListIsNone) {
+  Load(Definition(1, "[PORT]\nR=0\n"));
+  Open("PORT");
+  CIORec& module = Record("PORT");
+  EXPECT_EQ(module.RemoveChild(1), nullptr);
+  EXPECT_EQ(module.GetChildren().size(), 1u);
+  EXPECT_FALSE(module.SetMissing(true));
+  EXPECT_TRUE(module.SetMissing(false));
+}
+
 }  // namespace
 }  // namespace pvw::test

@@ -52,13 +52,20 @@ TEST_F(ErrorManagerTest, WhatTheHostLeavesOutIsFilledIn) {
 
 TEST_F(ErrorManagerTest, TheMissingTextFollowsTheLanguage) {
   test::SystemAnswers system;
-  system->language = "jpn";
   const test::CodePage page(932);
-  EXPECT_EQ(
-      TextAfter(kUnknown),
-      "\x93\xE0\x95\x94\x83\x47\x83\x89\x81\x5B: \x83\x47\x83\x89\x81\x5B\x83\x81\x83\x62\x83\x5A\x81\x5B"
-      "\x83\x57\x82\xAA\x90\xDD\x92\xE8\x82\xB3\x82\xEA\x82\xC4\x82\xA2\x82\xDC\x82\xB9\x82\xF1"
-      " (ErrorManager)");
+  for (const char* language : {"jpn", "JPN"}) {
+    system->language = language;
+    errors.ResetError();
+    EXPECT_EQ(TextAfter(kUnknown),
+              "\x93\xE0\x95\x94\x83\x47\x83\x89\x81\x5B: "
+              "\x83\x47\x83\x89\x81\x5B\x83\x81\x83\x62\x83\x5A\x81\x5B"
+              "\x83\x57\x82\xAA\x90\xDD\x92\xE8\x82\xB3\x82\xEA\x82\xC4\x82\xA2\x82\xDC\x82\xB9\x82\xF1"
+              " (ErrorManager)");
+  }
+  for (const char* language : {"jp", "deu", ""}) {
+    system->language = language;
+    EXPECT_EQ(TextAfter(kUnknown), kMissing) << language;
+  }
 }
 
 TEST_F(ErrorManagerTest, AnObjectMayExplainItsOwnStatus) {
