@@ -73,7 +73,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
     const double large = Seconds(name + " " + Args(version, 100000)) / 100000;
     if (small <= 0 || large <= 0) return;
     Print(name + ": cost per register, 100,000 against 1,000, v" + std::to_string(version), large / small,
-          "<= 1.3");
+          bound);
   }
 
   std::map<std::string, double> m_seconds;
