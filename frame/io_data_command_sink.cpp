@@ -178,7 +178,8 @@ void CPvwIODataCommandSink::OnOpenIOWindow() {
     const std::string title = platform::LoadString(IDS_VIEW_TITLE);
     HWND window = 0;
     std::string text;
-    m_pUiRegistrar->FindDockableWindow(m_windowId, title, this, kFindHidden, kBottomDockBar, &window, &text);
+    m_pUiRegistrar->FindDockableWindow(m_windowId, title, this, kFindHidden, kBottomDockBar, &window,
+                                       nullptr);
     if (window != 0) {
       m_pUiRegistrar->SetDockState(window, kShowWindow);
     } else {
