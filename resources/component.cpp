@@ -1,6 +1,7 @@
 // Announces the component's own resources as the module that they are linked into is loaded.
 
 #include "platform/base/resources.h"
+#include "resources/dialogs.h"
 #include "resources/ids.h"
 #include "resources/menus.h"
 #include "resources/pictures.h"
@@ -28,6 +29,7 @@ const platform::ResourceTables kTables{.strings = ComponentStrings(),
                                        .accelerators = kAccelerators,
                                        .menus = ComponentMenus(),
                                        .toolbars = ComponentToolbars(),
+                                       .dialogs = ComponentDialogs(),
                                        .bitmaps = ComponentBitmaps()};
 const platform::ResourceRegistration kRegistration(kTables, platform::ResourceRole::kComponent);
 
