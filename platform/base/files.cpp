@@ -179,9 +179,13 @@ std::optional<FileContents> ReadNativeFile(const std::string& native) {
 }
 
 bool WriteWholeFile(std::string_view path, std::string_view bytes) {
-  const std::optional<std::string> named = ToNativePath(path);
-  if (!named) return false;
-  const std::string native = BehindLinks(*named);
+  const std::optional<std::string> native = ToNativePath(path);
+  return native && WriteNativeFile(*native, bytes);
+}
+
+bool WriteNativeFile(const std::string& named, std::string_view bytes) {
+  if (named.find('\0') != std::string::npos) return false;
+  const std::string native = BehindLinks(named);
   struct stat before {};
   const bool exists = stat(native.c_str(), &before) == 0;
   if (exists &&

@@ -48,6 +48,8 @@ std::optional<FileContents> ReadNativeFile(const std::string& native);
 // disk in one step: when it can't be written, is read-only or isn't a regular file, the result is false and
 // what was there before is there still.
 bool WriteWholeFile(std::string_view path, std::string_view bytes);
+// The same by native path.
+bool WriteNativeFile(const std::string& native, std::string_view bytes);
 // False when there is no such file, or it can't be deleted.
 bool DeleteFile(std::string_view path);
 

@@ -70,6 +70,8 @@ enum class DragEffect { None, Copy };
 class DragSource {
  public:
   virtual ~DragSource() = default;
+  // The drag runs from now on, and the pointer can be changed.
+  virtual void Begin() {}
   // The pointer is over something that would take it, or not.
   virtual void Feedback(DragEffect effect) = 0;
   enum class Next { Go, Drop, Cancel };
@@ -101,7 +103,7 @@ class Display {
   virtual DragEffect RunDrag(CWnd& source, const std::string& text, DragSource& drag) = 0;
   // Lets the user point at something of the window to ask for help on: the question mark.
   virtual void ShowHelp(CWnd& window) = 0;
-  // What the pointer looks like while a drag runs.
+  // What the pointer looks like from now on until the drag is over.
   virtual void SetDragCursor(const PictureResource& cursor) = 0;
 
   virtual void StartTimer(HWND window, UINT id, UINT milliseconds) = 0;

@@ -32,6 +32,7 @@ void CEdit::PeerSelected(std::size_t start, std::size_t end) {
 
 void CEdit::Change(std::string text, text_edit::Selection selection) {
   StoreText(std::move(text));
+  m_selection_before = m_selection;
   m_selection = {text_edit::Snap(GetText(), selection.anchor), text_edit::Snap(GetText(), selection.caret)};
   const HWND self = GetHandle();
   const unsigned change = ++m_changes;

@@ -20,6 +20,8 @@ class CEdit : public CWnd {
   void SetText(std::string_view text) override;
   std::size_t GetSelStart() const { return m_selection.Start(); }
   std::size_t GetSelEnd() const { return m_selection.End(); }
+  // While a change is told of, what was selected before it.
+  const text_edit::Selection& GetSelBeforeChange() const { return m_selection_before; }
   // The caret is at `end`. Tells nobody but the peer.
   void SetSel(std::size_t start, std::size_t end);
   void SelectAll() { SetSel(0, GetText().size()); }
@@ -39,6 +41,7 @@ class CEdit : public CWnd {
   bool HandleKey(const MSG& msg);
 
   text_edit::Selection m_selection;
+  text_edit::Selection m_selection_before;
   unsigned m_changes = 0;
 };
 

@@ -113,6 +113,8 @@ class SECTreeCtrl : public CWnd {
   void SetRowFont(const LOGFONT& font);
   void SetHeaderFont(const LOGFONT& font);
   const LOGFONT& GetRowFont() const { return m_row_font; }
+  // The colour that a row's texts are drawn in when they would be `normal`.
+  virtual COLORREF GetRowTextColour(HTREEITEM item, COLORREF normal) const;
   void SetLineHeight(int pixels);
   int GetLineHeight() const { return m_line_height; }
 
@@ -153,8 +155,6 @@ class SECTreeCtrl : public CWnd {
   const MessageTable& GetMessageTable() const override { return kMessages; }
   // The edit to use from now on; none may be open.
   void SetListEdit(std::unique_ptr<SECListEdit> edit);
-  // The colour of a row's texts that would be `normal`.
-  virtual COLORREF GetRowTextColour(HTREEITEM item, COLORREF normal) const;
   // The context menu of the header is wanted, with kHeaderMenu; in client coordinates.
   virtual void OnHeaderRightClick(POINT point);
 

@@ -199,6 +199,7 @@ UINT HeadlessDisplay::RunPopupMenu(CWnd&, const std::vector<PopupMenuItem>& item
 }
 
 DragEffect HeadlessDisplay::RunDrag(CWnd&, const std::string& text, DragSource& drag) {
+  drag.Begin();
   const std::optional<DragAnswer> answer = Take<DragAnswer>("drag");
   const bool takes = answer && *answer != DragAnswer::Nowhere;
   DragSource::Next next = DragSource::Next::Go;

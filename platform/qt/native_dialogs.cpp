@@ -196,6 +196,7 @@ DragEffect QtDisplay::RunDrag(CWnd& source, const std::string& text, DragSource&
   auto* moved = new QDrag(widget);
   moved->setMimeData(mime);
   m_drag = moved;
+  drag.Begin();
   QObject here;
   QObject::connect(moved, &QDrag::actionChanged, &here, [&](Qt::DropAction action) {
     qt::Guarded([&] { drag.Feedback(action == Qt::CopyAction ? DragEffect::Copy : DragEffect::None); });
