@@ -1,6 +1,7 @@
 // Announces the component's own resources as the module that they are linked into is loaded.
 
 #include "platform/base/resources.h"
+#include "resources/cursors.h"
 #include "resources/dialogs.h"
 #include "resources/ids.h"
 #include "resources/menus.h"
@@ -30,7 +31,9 @@ const platform::ResourceTables kTables{.strings = ComponentStrings(),
                                        .menus = ComponentMenus(),
                                        .toolbars = ComponentToolbars(),
                                        .dialogs = ComponentDialogs(),
-                                       .bitmaps = ComponentBitmaps()};
+                                       .bitmaps = ComponentBitmaps(),
+                                       .icons = ComponentIcons(),
+                                       .cursors = ComponentCursors()};
 const platform::ResourceRegistration kRegistration(kTables, platform::ResourceRole::kComponent);
 
 }  // namespace

@@ -7,7 +7,9 @@ namespace pvw {
 namespace {
 
 const platform::DialogResource kDialogs[] = {
-    {IDD_EDIT_MEMORY, &kEditMemoryDialog},
+    {IDD_EDIT_MEMORY, &kEditMemoryDialog}, {IDD_SELECT_REGISTER, &kSelectRegisterDialog},
+    {IDD_PROGRESS, &kProgressDialog},      {IDD_FIND, &kFindDialog},
+    {IDD_SET_IO_FILE, &kSetIOFileDialog},  {IDD_EDIT_TEST_DETAILS, &kEditTestDetailsDialog},
 };
 
 }  // namespace

@@ -254,6 +254,26 @@ constexpr auto kMissingPage = Draw<kSide, kSide>({
     "WWWWWWWWWWWWWWWW",
 });
 
+// An arrow that points to what opens beside it.
+constexpr auto kPlaceholderArrow = Draw<kSide, kSide>({
+    "................",
+    "................",
+    "................",
+    "......#.........",
+    "......##........",
+    "......###.......",
+    "......####......",
+    "......#####.....",
+    "......#####.....",
+    "......####......",
+    "......###.......",
+    "......##........",
+    "......#.........",
+    "................",
+    "................",
+    "................",
+});
+
 constexpr auto kPaneButtons =
     Strip<kSide, kButtonHeight, 8>({kRefresh, kLock, kOpenFile, kPrint, kSave, kSelect, kFind, kFindNext});
 constexpr auto kRowImages = Strip<kSide, kSide, 4>({kClosedFolder, kOpenFolder, kPage, kMissingPage});
@@ -266,10 +286,18 @@ constexpr platform::PictureResource kBitmaps[] = {
     {IDB_ROW_IMAGES, 4 * kSide, kSide, kRowImages},
 };
 
+constexpr platform::PictureResource kIcons[] = {
+    {IDI_PLACEHOLDER_ARROW, kSide, kSide, kPlaceholderArrow},
+};
+
 }  // namespace
 
 std::span<const platform::PictureResource> ComponentBitmaps() {
   return kBitmaps;
+}
+
+std::span<const platform::PictureResource> ComponentIcons() {
+  return kIcons;
 }
 
 }  // namespace pvw

@@ -1,5 +1,5 @@
 // The component's bitmaps: images of rows and toolbars, and of the group that the host's test framework
-// shows.
+// shows. And its icons.
 #pragma once
 
 #include <span>
@@ -9,5 +9,6 @@
 namespace pvw {
 
 std::span<const platform::PictureResource> ComponentBitmaps();
+std::span<const platform::PictureResource> ComponentIcons();
 
 }  // namespace pvw
