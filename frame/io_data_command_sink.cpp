@@ -284,6 +284,12 @@ void CPvwIODataCommandSink::ToggleRefreshLock() {
   }
   m_textFg = m_savedTextFg;
   SetItemColours(item.Get(), m_textFg, m_textBk);
+  const HWND self = GetHandle();
+  for (std::size_t i = 0; i < m_paneByIndex.size(); ++i) {
+    if (m_paneByIndex[i] != nullptr) m_paneByIndex[i]->OnLockEnded();
+    // Rows that open show dialogs, and the host may close the view or disconnect meanwhile.
+    if (self != 0 && !platform::IsWindow(self)) return;
+  }
   UpdateWindow();
 }
 

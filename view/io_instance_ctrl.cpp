@@ -17,6 +17,8 @@ const platform::MessageTable CPvwIOInstanceCtrl::kMessages{
         // Lifetime.
         OnMessage<&Pane::OnCreate>(platform::WM_CREATE),
         OnMessage<&Pane::OnDestroy>(platform::WM_DESTROY),
+        // Input.
+        OnMessage<&Pane::OnSetFocus>(platform::WM_SETFOCUS),
         // What is shown.
         OnCommand<&Pane::OnRefresh>(ID_REFRESH),
         OnCommand<&Pane::OnLockRefresh>(ID_LOCK_REFRESH),
@@ -45,9 +47,14 @@ const platform::MessageTable CPvwIOInstanceCtrl::kMessages{
         // Notifications of the grid.
         OnNotify<&Pane::OnItemExpanding>(kTreeId, platform::TVN_ITEMEXPANDING),
         OnNotify<&Pane::OnSelChanged>(kTreeId, platform::TVN_SELCHANGED),
+        OnNotify<&Pane::OnBeginDrag>(kTreeId, platform::TVN_BEGINDRAG),
         OnNotify<&Pane::OnBeginNameEdit>(kTreeId, platform::TVN_BEGINLABELEDIT),
+        OnNotify<&Pane::OnEndLabelEdit>(kTreeId, platform::TVN_ENDLABELEDIT),
         OnNotify<&Pane::OnBeginCellEdit>(kTreeId, platform::LVN_BEGINLABELEDIT),
+        OnNotify<&Pane::OnEndCellEdit>(kTreeId, platform::LVN_ENDLABELEDIT),
+        OnNotify<&Pane::OnClick>(kTreeId, platform::NM_CLICK),
         OnNotify<&Pane::OnDblClick>(kTreeId, platform::NM_DBLCLK),
+        OnNotify<&Pane::OnReturn>(kTreeId, platform::NM_RETURN),
     }};
 
 CPvwIOInstanceCtrl::CPvwIOInstanceCtrl(CIODataFile* file, CIOData* data, std::size_t paneIndex,
@@ -71,15 +78,6 @@ platform::LRESULT CPvwIOInstanceCtrl::OnSelChanged(platform::NMHDR&) {
 }
 
 platform::LRESULT CPvwIOInstanceCtrl::OnBeginNameEdit(platform::NMHDR&) {
-  return 1;
-}
-
-// Values can't be typed into their cells.
-platform::LRESULT CPvwIOInstanceCtrl::OnBeginCellEdit(platform::NMHDR&) {
-  return 1;
-}
-
-platform::LRESULT CPvwIOInstanceCtrl::OnDblClick(platform::NMHDR&) {
   return 1;
 }
 

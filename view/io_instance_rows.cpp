@@ -4,9 +4,10 @@
 // and with it the pane. What goes on after one looks at the window first.
 
 #include <tuple>
-#include <vector>
 
+#include "frame/controls/tree_grid_state.h"
 #include "platform/gui/common_dialogs.h"
+#include "view/dlg_progress.h"
 #include "view/io_instance_ctrl.h"
 #include "view/pane_ids.h"
 
@@ -17,22 +18,9 @@ namespace {
 // Stands in a closed module for children that haven't been read, so that it has an expand box.
 constexpr std::string_view kPlaceholderName = "null";
 
-bool HasNoChildren(const CIORec& record) {
-  return record.GetChildren().empty();
-}
-
 // 0 is a pane that had no window any more to begin with.
 bool IsGone(platform::HWND pane) {
   return pane != 0 && !platform::IsWindow(pane);
-}
-
-int LeafImage(const CIORec& record) {
-  return record.IsMissing() ? kCrossedOutPage : kPage;
-}
-
-int FirstImage(const CIORec& record) {
-  if (record.IsMissing()) return kCrossedOutPage;
-  return record.AreChildrenKnown() && HasNoChildren(record) ? kPage : kClosedFolder;
 }
 
 }  // namespace
@@ -78,44 +66,14 @@ void CPvwIOInstanceCtrl::FillTree(bool openAll) {
   if (m_paneIndex == 1) OpenSelectedRows(openAll);
 }
 
+RecordRows CPvwIOInstanceCtrl::Records() {
+  return {m_tree, *m_pIOFile, *m_pIOData};
+}
+
 bool CPvwIOInstanceCtrl::AddChildRows(CIORec& record, HTREEITEM parent) {
-  // The rows of a module are made in one go, against one state of the file. Selections nest as deep as their
-  // text says, so the walk keeps its own stack.
-  const CIODataFile::Reading reading(*m_pIOFile);
-  const platform::HWND self = GetHandle();
-  struct Level {
-    CIORec* record;
-    HTREEITEM row;
-    std::size_t next;
-  };
-  bool added = false;
-  record.SetChildrenKnown(true);
-  std::vector<Level> levels{{&record, parent, 0}};
-  while (!levels.empty()) {
-    Level& level = levels.back();
-    const CIORec::Records& children = level.record->GetChildren();
-    if (level.next == children.size()) {
-      levels.pop_back();
-      continue;
-    }
-    CIORec& child = *children[level.next++];
-    if (!IsVisibleHere(child)) continue;
-    added = true;
-    const HTREEITEM row = AddChildRow(child, level.row);
-    if (!child.AreChildrenKnown()) {
-      // A fault of the file has been told to the user; the row shows what could be read.
-      std::ignore = child.LoadChildren(m_pIOFile, nullptr);
-      if (IsGone(self)) return added;
-      ApplySelectionToRow(row, child);
-      if (HasNoChildren(child)) {
-        SetLeafImage(row, child);
-        continue;
-      }
-    }
-    child.SetChildrenKnown(true);
-    levels.push_back({&child, row, 0});
-  }
-  return added;
+  return Records().AddBelow(record, parent, [this](CIORec& child, HTREEITEM row) {
+    return IsVisibleHere(child) ? AddChildRow(child, row) : 0;
+  });
 }
 
 platform::HTREEITEM CPvwIOInstanceCtrl::AddChildRow(CIORec& child, HTREEITEM parent) {
@@ -130,11 +88,7 @@ platform::HTREEITEM CPvwIOInstanceCtrl::AddChildRow(CIORec& child, HTREEITEM par
 }
 
 void CPvwIOInstanceCtrl::ApplySelectionToRow(HTREEITEM item, CIORec& record) {
-  std::vector<std::string> path;
-  for (HTREEITEM row = item; row != 0; row = m_tree.GetParentItem(row)) {
-    path.push_back(m_tree.GetItemText(row, kNameColumn));
-  }
-  m_pIOData->ApplyChildSelection(&record, path);
+  Records().ApplySelection(item, record);
 }
 
 void CPvwIOInstanceCtrl::OpenSelectedRows(bool openAll) {
@@ -147,7 +101,7 @@ void CPvwIOInstanceCtrl::OpenSelectedRows(bool openAll) {
     if (IsGone(self)) return;
     row = next;
   }
-  if (openAll && !IsTargetRunning()) OpenRows();
+  if (openAll && !IsTargetRunning() && !IsGone(self)) OpenRows();
 }
 
 void CPvwIOInstanceCtrl::FillSelectedRow(HTREEITEM item, CIORec& record) {
@@ -172,15 +126,13 @@ void CPvwIOInstanceCtrl::FillSelectedRow(HTREEITEM item, CIORec& record) {
 }
 
 void CPvwIOInstanceCtrl::OpenRows() {
-  const platform::HWND self = GetHandle();
-  for (HTREEITEM row = m_tree.GetRootItem(); row != 0; row = m_tree.GetNextSiblingItem(row)) {
-    m_tree.Expand(row, platform::TVE_EXPAND);
-    if (IsGone(self)) return;
-    for (HTREEITEM child = m_tree.GetChildItem(row); child != 0; child = m_tree.GetNextSiblingItem(child)) {
-      m_tree.Expand(child, platform::TVE_EXPAND);
-      if (IsGone(self)) return;
-    }
+  std::int32_t count = 0;
+  for (HTREEITEM row = m_tree.GetRootItem(); row != 0; row = NextRow(m_tree, row, true)) {
+    if (m_tree.ItemHasChildren(row)) ++count;
   }
+  if (count == 0) return;
+  CDlgProgress dialog(count, *this);
+  RunDialog(dialog);
 }
 
 void CPvwIOInstanceCtrl::RebuildTree() {
@@ -189,6 +141,7 @@ void CPvwIOInstanceCtrl::RebuildTree() {
 }
 
 void CPvwIOInstanceCtrl::ReleaseExpandCounts() {
+  EndDialogs();
   for (const auto& [item, record] : m_itemMap) {
     if (record->IsExpanded() && m_tree.IsExpanded(item)) record->SetExpanded(false);
   }
@@ -229,13 +182,14 @@ void CPvwIOInstanceCtrl::OpenRow(HTREEITEM item, CIORec& record) {
     }
     return;
   }
-  ReadChildren(item, record);
+  const bool loaded = ReadChildren(item, record);
   if (IsGone(self)) return;
-  // A row that has nothing below it doesn't open, so it mustn't count as open either.
-  if (!m_tree.ItemHasChildren(item)) record.SetExpanded(false);
+  // A row that has nothing below it doesn't open, so it mustn't count as open either. A module with a fault
+  // does count: that tells who loads it next to take what there is.
+  if (loaded && !m_tree.ItemHasChildren(item)) record.SetExpanded(false);
 }
 
-void CPvwIOInstanceCtrl::ReadChildren(HTREEITEM item, CIORec& record) {
+bool CPvwIOInstanceCtrl::ReadChildren(HTREEITEM item, CIORec& record) {
   if (const HTREEITEM placeholder = m_tree.GetChildItem(item)) m_tree.DeleteItem(placeholder);
   const platform::HWND self = GetHandle();
   bool loaded = true;
@@ -243,17 +197,18 @@ void CPvwIOInstanceCtrl::ReadChildren(HTREEITEM item, CIORec& record) {
     std::ignore = record.ReadValue(debugger);
   } else {
     loaded = record.LoadChildren(m_pIOFile, debugger);
-    if (IsGone(self)) return;
+    if (IsGone(self)) return false;
     ApplySelectionToRow(item, record);
   }
-  if (IsGone(self)) return;
+  if (IsGone(self)) return false;
   record.SetExpanded(true);
   if (loaded) AddChildRows(record, item);
   if (IsGone(self)) {
     record.SetExpanded(false);
-    return;
+    return false;
   }
   if (!loaded || HasNoChildren(record)) SetLeafImage(item, record);
+  return loaded;
 }
 
 void CPvwIOInstanceCtrl::CloseRow(HTREEITEM item, CIORec& record) {

@@ -13,8 +13,9 @@ constexpr std::string_view kSelectionKey = "IOSelection IOWnd0";
 
 platform::Status CPvwIOInstanceCtrl::SaveState(CSessionStore& store, std::string_view key) {
   if (m_paneIndex == 0) {
-    store.WriteString(kSelectionKey, m_pOtherPane != nullptr ? SelectionTextOfRows(m_pOtherPane->m_tree)
-                                                             : SelectionTextOfRecords(*m_pIOData));
+    const bool has_rows = m_pOtherPane != nullptr && !m_pOtherPane->m_bRebuildDue;
+    store.WriteString(kSelectionKey, has_rows ? SelectionTextOfRows(m_pOtherPane->m_tree)
+                                              : SelectionTextOfRecords(*m_pIOData));
   }
   return m_tree.SaveState(store, key);
 }

@@ -22,9 +22,6 @@ constexpr std::string_view kSettingsSection = "CPvwIOInstanceCtrl";
 
 constexpr int kNameWidth = 200;
 constexpr int kOtherWidth = 100;
-constexpr int kImageWidth = 16;
-constexpr int kImageCount = 4;
-constexpr platform::COLORREF kWhite = 0xFFFFFF;
 constexpr int kSpaceBetweenLines = 4;
 
 // A stored font size can be any number.
@@ -87,9 +84,7 @@ bool CPvwIOInstanceCtrl::CreateTree(const std::string (&titles)[4]) {
   for (int column = kAddressColumn; column <= kAccessColumn; ++column) {
     m_tree.InsertColumn(column, titles[column], platform::TextAlign::Left, kOtherWidth);
   }
-  if (const platform::PictureResource* strip = platform::LoadBitmap(IDB_ROW_IMAGES)) {
-    m_images.Create(kImageWidth, strip->height, kImageCount, strip->pixels, kWhite);
-  }
+  LoadRowImages(m_images);
   m_tree.SetImageList(&m_images);
   return true;
 }
@@ -98,10 +93,17 @@ platform::LRESULT CPvwIOInstanceCtrl::OnDestroy(const platform::MSG& msg) {
   std::string text;
   if (m_tree.GetEditText(text)) m_tree.MarkEditClosing();
   m_tree.SaveColumnWidths(settings, kSettingsSection);
+  m_bEditing = false;
   ReleaseExpandCounts();
   if (m_pOtherPane != nullptr) m_pOtherPane->m_pOtherPane = nullptr;
   m_pOtherPane = nullptr;
   return Default(msg, kMessages);
+}
+
+// The grid takes the keys.
+platform::LRESULT CPvwIOInstanceCtrl::OnSetFocus(const platform::MSG& msg) {
+  if (m_tree.Exists() && m_tree.IsVisible()) platform::SetFocus(m_tree.GetHandle());
+  return platform::IsWindow(msg.hwnd) ? Default(msg, kMessages) : 0;
 }
 
 platform::Status CPvwIOInstanceCtrl::SetFont(std::string_view face, std::int32_t size) {

@@ -1,9 +1,11 @@
 #include "tests/view/pane_stage.h"
 
 #include <sstream>
+#include <utility>
 
 #include "host/host_ptr.h"
 #include "host/ids.h"
+#include "resources/ids.h"
 #include "target/debugger_binding.h"
 
 namespace pvw::test {
@@ -17,11 +19,15 @@ const platform::GUID kIdentity = platform::MakeGuid("{F866DB60-6186-11D5-8BBE-00
 PaneStage::PaneStage()
     : display(
           platform::HeadlessDisplay::Unanswered::Fail,
-          [this](const std::string& line) { shown += line + '\n'; },
+          [this](const std::string& line) {
+            shown += line + '\n';
+            if (meanwhile) std::exchange(meanwhile, {})();
+          },
           [](const std::string& text) { ADD_FAILURE() << text; }),
       store(GetService<IQDataManager>(&host, IID_IQDataManager), platform::ScopedBstr("ws").Get(),
             platform::ScopedBstr("prj").Get(), platform::ScopedBstr("name").Get(),
             platform::ScopedBstr("cfg").Get(), kIdentity) {
+  display.SetRunningByThemselves({IDD_PROGRESS});
   platform::SetDisplay(&display);
   BindDebuggerFunctions(&host, 1);
   frame.path = dir.Write("device.io", kDevice);
@@ -97,8 +103,7 @@ std::string PaneStage::Rows(std::size_t pane) {
   return text.str();
 }
 
-HTREEITEM PaneStage::Row(std::size_t pane, const std::string& path) {
-  const CTreeGridCtrl& tree = Tree(pane);
+HTREEITEM PaneStage::RowIn(const platform::SECTreeCtrl& tree, const std::string& path) {
   std::istringstream names(path);
   HTREEITEM item = 0;
   for (std::string name; std::getline(names, name, '/');) {

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -69,7 +70,8 @@ class PaneStage : public testing::Test {
   // their picture, their cells up to the last that isn't empty, and a star where they are red.
   std::string Rows(std::size_t pane);
   // By names from the module down, "PORT/PDATA".
-  HTREEITEM Row(std::size_t pane, const std::string& path);
+  static HTREEITEM RowIn(const platform::SECTreeCtrl& tree, const std::string& path);
+  HTREEITEM Row(std::size_t pane, const std::string& path) { return RowIn(Tree(pane), path); }
   bool Open(std::size_t pane, const std::string& path) {
     return Tree(pane).Expand(Row(pane, path), platform::TVE_EXPAND);
   }
@@ -81,7 +83,8 @@ class PaneStage : public testing::Test {
   CIORec& Record(const std::string& module);
   std::string State(std::size_t index, std::uint32_t command);
 
-  std::string shown;  // what the user sees open, line by line
+  std::function<void()> meanwhile;  // happens once, while the user sees the next line
+  std::string shown;                // what the user sees open, line by line
   platform::HeadlessDisplay display;
   FakeHost host;
   TempDir dir;

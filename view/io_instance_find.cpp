@@ -1,0 +1,140 @@
+// Searching the rows of a pane by name or by address.
+//
+// Rows are looked at in the order of the screen, open or not, down to bit fields. What is compared is what
+// they show, without regard to case. A hit opens what is above it as the user would, with the reads that
+// come with it.
+
+#include <utility>
+
+#include "frame/controls/tree_grid_state.h"
+#include "platform/base/message_box.h"
+#include "platform/base/resources.h"
+#include "platform/base/text.h"
+#include "platform/gui/common_dialogs.h"
+#include "resources/ids.h"
+#include "support/text_search.h"
+#include "view/dlg_find.h"
+#include "view/io_instance_ctrl.h"
+#include "view/pane_ids.h"
+
+namespace pvw {
+
+namespace {
+
+// Depths of rows; below bit fields nothing is looked at.
+constexpr int kRegisterDepth = 1;
+constexpr int kBitfieldDepth = 2;
+
+}  // namespace
+
+void CPvwIOInstanceCtrl::OnFind() {
+  const platform::HWND self = GetHandle();
+  CDlgFind dialog(nullptr);
+  const auto result = dialog.DoModal();
+  if (!platform::IsWindow(self)) return;
+  if (result != static_cast<int>(platform::IDOK)) {
+    m_findText.clear();
+    return;
+  }
+  m_findText = dialog.GetSearchText();
+  m_bFindWholeWord = dialog.GetWholeWord();
+  m_findColumn = dialog.GetColumn();
+  FindFirst(m_findText, m_bFindWholeWord);
+}
+
+void CPvwIOInstanceCtrl::OnFindNext() {
+  FindNextMatch(m_findText, m_bFindWholeWord);
+}
+
+void CPvwIOInstanceCtrl::OnUpdateFindNext(platform::CCmdUI& ui) {
+  ui.Enable(!m_findText.empty());
+}
+
+void CPvwIOInstanceCtrl::FindFirst(std::string text, bool wholeWord) {
+  if (!LoadAllRows()) return;
+  if (const HTREEITEM hit = SearchRows(0, std::move(text), wholeWord)) {
+    ShowHit(hit);
+  } else {
+    EndSearch(IDS_NAME_NOT_FOUND, IDS_ADDRESS_NOT_FOUND);
+  }
+}
+
+void CPvwIOInstanceCtrl::FindNextMatch(std::string text, bool wholeWord) {
+  const HTREEITEM last = m_lastFoundItem;
+  const HTREEITEM hit = m_tree.HasItem(last) ? SearchRows(last, std::move(text), wholeWord) : 0;
+  if (hit != 0) {
+    ShowHit(hit);
+  } else {
+    EndSearch(IDS_NO_MORE_NAME, IDS_NO_MORE_ADDRESS);
+  }
+}
+
+// Makes the rows of every module, closed as they are, so that all registers of the device can be found. The
+// target isn't touched. False when the pane has gone meanwhile: faults of the file are told to the user.
+bool CPvwIOInstanceCtrl::LoadAllRows() {
+  const platform::WaitCursor wait;
+  const CIODataFile::Reading reading(*m_pIOFile);
+  const platform::HWND self = GetHandle();
+  HTREEITEM row = m_tree.GetRootItem();
+  while (row != 0) {
+    const HTREEITEM next = m_tree.GetNextSiblingItem(row);
+    CIORec* const record = FindRecord(row);
+    if (record != nullptr && !(record->AreChildrenKnown() && HasRealChildren(row))) {
+      LoadRowsOf(row, *record);
+      if (!platform::IsWindow(self)) return false;
+    }
+    row = next;
+  }
+  return true;
+}
+
+void CPvwIOInstanceCtrl::LoadRowsOf(HTREEITEM row, CIORec& record) {
+  const platform::HWND self = GetHandle();
+  if (const HTREEITEM child = m_tree.GetChildItem(row)) m_tree.DeleteItem(child);
+  const bool loaded = record.AreChildrenKnown() || record.LoadChildren(m_pIOFile, nullptr);
+  if (!platform::IsWindow(self)) return;
+  if (loaded) {
+    ApplySelectionToRow(row, record);
+    AddChildRows(record, row);
+    if (!platform::IsWindow(self) || !record.GetChildren().empty()) return;
+  }
+  SetLeafImage(row, record);
+}
+
+// The first row strictly behind `behind` that has the text, 0 for none; from the top with 0.
+platform::HTREEITEM CPvwIOInstanceCtrl::SearchRows(HTREEITEM behind, std::string text, bool wholeWord) const {
+  const bool by_name = m_findColumn == CDlgFind::kNameColumn;
+  const int deepest = by_name ? kBitfieldDepth : kRegisterDepth;
+  const auto next = [&](HTREEITEM row) { return NextRow(m_tree, row, m_tree.GetItemDepth(row) < deepest); };
+  text = platform::LowerCase(text);
+  for (HTREEITEM row = behind != 0 ? next(behind) : m_tree.GetRootItem(); row != 0; row = next(row)) {
+    const CIORec* const record = FindRecord(row);
+    if (record == nullptr || (!by_name && m_tree.GetItemDepth(row) != kRegisterDepth)) continue;
+    const std::string shown =
+        platform::LowerCase(by_name ? m_tree.GetItemText(row, kNameColumn) : record->GetAddressText(0));
+    if (wholeWord ? shown == text : ContainsText(shown, text)) return row;
+  }
+  return 0;
+}
+
+void CPvwIOInstanceCtrl::ShowHit(HTREEITEM row) {
+  const platform::HWND self = GetHandle();
+  const HTREEITEM parent = m_tree.GetParentItem(row);
+  for (const HTREEITEM above : {m_tree.GetParentItem(parent), parent}) {
+    if (above != 0) m_tree.Expand(above, platform::TVE_EXPAND);
+    if (!platform::IsWindow(self)) return;
+  }
+  m_tree.SelectItem(row);
+  if (!platform::IsWindow(self)) return;
+  platform::SetFocus(m_tree.GetHandle());
+  if (platform::IsWindow(self)) m_lastFoundItem = row;
+}
+
+void CPvwIOInstanceCtrl::EndSearch(std::uint32_t name_message, std::uint32_t address_message) {
+  const bool by_name = m_findColumn == CDlgFind::kNameColumn;
+  const platform::HWND self = GetHandle();
+  platform::MessageBox(platform::LoadString(by_name ? name_message : address_message), platform::MB_OK);
+  if (platform::IsWindow(self)) m_findText.clear();
+}
+
+}  // namespace pvw
