@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "component/services/module_state.h"
+#include "host/host_ptr.h"
 #include "host/ids.h"
 #include "platform/base/message_box.h"
 #include "platform/base/module.h"
@@ -29,6 +30,7 @@ const char kHere = 0;
 
 constexpr const char* kResourceLibrary = "PvwIOExtRes.dll";
 constexpr std::size_t kMaxPath = 259;
+constexpr const char* kDefinitionExtension = ".io";
 
 constexpr std::uint32_t kBindMode = 1;
 
@@ -146,6 +148,17 @@ void CPvwIODataCtrl::OnConnected() {
   if (boundHost != host) UnbindHost();
   view = std::make_unique<CPvwIODataCommandSink>(&ioFile, &ioData, host, uiRegistrar.get());
   view->CreateSink();
+  testClient = std::make_unique<CTestClientIO>(host, static_cast<IQTestComponentGroup*>(this), view.get(),
+                                               DefaultDefinitionFile());
+}
+
+std::string CPvwIODataCtrl::DefaultDefinitionFile() const {
+  const CHostPtr<IQDeviceInfo> device(host, IID_IQDeviceInfo);
+  platform::ScopedBstr given;
+  if (device && platform::Failed(device->GetDefaultIOPath(given.Receive()))) given.Receive();
+  std::string path = given.Text();
+  if (!path.ends_with(kDefinitionExtension)) path += kDefinitionExtension;
+  return path;
 }
 
 void CPvwIODataCtrl::OnDisconnected() {
@@ -153,6 +166,7 @@ void CPvwIODataCtrl::OnDisconnected() {
     view->DestroySink();
     view.reset();
   }
+  testClient.reset();
   if (ioFile.IsOpen()) ioFile.Close();
   // The next connect reads the file anew.
   ioData.DeleteModules();

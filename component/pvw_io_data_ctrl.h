@@ -10,6 +10,7 @@
 #include "model/io_data.h"
 #include "model/io_data_file.h"
 #include "support/dll_resource.h"
+#include "testclient/test_client_io.h"
 
 namespace pvw {
 
@@ -51,6 +52,8 @@ class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, p
   IQComponentHost* LeaveBinding();
   // The last control at a host takes the binding with it.
   void UnbindHost();
+  // The device's own, for the test client.
+  std::string DefaultDefinitionFile() const;
 
   CIODataFile ioFile;
   CIOData ioData;
@@ -58,7 +61,8 @@ class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, p
   // From the first connect on. It keeps its host's services, so that another host gets another one.
   std::unique_ptr<CUiRegistrar> uiRegistrar;
   IQComponentHost* registrarHost = nullptr;
-  IQComponentHost* connectHost = nullptr;  // as Connect last got it, until the disconnect
+  std::unique_ptr<CTestClientIO> testClient;  // from a connect to its disconnect, as the view
+  IQComponentHost* connectHost = nullptr;     // as Connect last got it, until the disconnect
   // Whose target this control has bound. The binding outlives a disconnect: it goes when the target does.
   IQComponentHost* boundHost = nullptr;
 };

@@ -69,6 +69,11 @@ std::uint32_t NameHash(std::string_view name) {
   return static_cast<std::uint32_t>(hash);
 }
 
+std::uint32_t ExactNameHash(std::string_view name) {
+  std::uint64_t seen = 0;
+  return static_cast<std::uint32_t>(HashWords<false>(name, seen));
+}
+
 bool NamesEqual(std::string_view a, std::string_view b) {
   if (a == b) return true;
   const std::size_t common = std::min(a.size(), b.size());

@@ -11,6 +11,7 @@ using platform::ScopedBstr;
 namespace {
 
 constexpr std::uint32_t kOpenView = 32770;
+constexpr std::uint32_t kProgressDialog = 11007;
 
 constexpr const char* kDefinition =
     "[Modules]\nFileVersion=1\nModule1=PORT\nModule2=TIMER\n"
@@ -122,6 +123,7 @@ std::size_t World::TakeReads() {
 }
 
 ComponentTest::ComponentTest() {
+  display.SetRunningByThemselves({kProgressDialog});
   platform::SetDisplay(&display);
   main.Create({});
   platform::SetMainWindow(main.GetHandle());

@@ -44,7 +44,7 @@ void ExpectNothingLeft(World& world) {
   EXPECT_EQ(world.Stepping(), nullptr);
 }
 
-TEST_F(ConnectTest, RegistersTheStepsThenTheFramesFacesThenItsPlaceInTheUserInterface) {
+TEST_F(ConnectTest, RegistersTheStepsThenTheFramesFacesThenItsPlaceInTheUserInterfaceThenTheTestClient) {
   World world;
   Instance instance(file);
   EXPECT_EQ(instance.Connect(world.host), S_OK);
@@ -61,7 +61,8 @@ TEST_F(ConnectTest, RegistersTheStepsThenTheFramesFacesThenItsPlaceInTheUserInte
                   "AddMenu 201 owner 1 PvwIO [32770] - - \"\" \"\" 1", "AddCommandSink window1 owner 1 PvwIO",
                   "AddCommandStrings of the module owner 1 PvwIO",
                   "AddToolbar {WK_TB00000011_CPU} \"Cpu\" 203 0 owner 1 PvwIO [32770]",
-                  "AddAccelerators 9001 owner 1 PvwIO [32770] - -"));
+                  "AddAccelerators 9001 owner 1 PvwIO [32770] - -", "GetDefaultIOPath",
+                  "AddClient {7E75765A-6BE4-4EC5-99B1-DB0B95E0E40B}"));
   const platform::CWnd* const sink = platform::CWnd::FromHandle(world.host.Ui().SinkOf(32770));
   ASSERT_NE(sink, nullptr);
   EXPECT_EQ(sink->GetParent(), &main);
@@ -79,7 +80,8 @@ TEST_F(ConnectTest, RegistersTheStepsThenTheFramesFacesThenItsPlaceInTheUserInte
                   "RemoveClient {453547D2-008B-44A3-BDF4-48B86CBCFB44}",
                   "RemoveClient {F4B80273-DE68-4433-B25A-774FB15B2676}",
                   "RemoveServer {34D95821-3D72-4D49-9565-E0C428C56CD0}",
-                  "RemoveClient {05E4387F-B032-464F-A0C1-B9CCB3B51054}", "FreeOwnerId 1", "FreeOwnerId 2"));
+                  "RemoveClient {05E4387F-B032-464F-A0C1-B9CCB3B51054}", "FreeOwnerId 1", "FreeOwnerId 2",
+                  "RemoveClient {7E75765A-6BE4-4EC5-99B1-DB0B95E0E40B}"));
 }
 
 TEST_F(ConnectTest, TakesAViewThatIsOpenAwayPaneByPane) {
@@ -173,7 +175,8 @@ TEST_F(ConnectTest, AgainAtTheSameHostKeepsTheRegistrarAndReadsTheFileAnew) {
 
   EXPECT_EQ(whole_session(), rows) << "no module twice";
   EXPECT_THAT(world.host.Asked("GetService IQPageHost"), testing::SizeIs(1)) << "one registrar";
-  EXPECT_THAT(world.host.Asked("GetService IQDeviceInfo"), testing::SizeIs(2)) << "two frames";
+  EXPECT_THAT(world.host.Asked("GetService IQDeviceInfo"), testing::SizeIs(4))
+      << "two frames and two test clients";
 
   // A connect without a disconnect first.
   EXPECT_EQ(whole_session(), rows);

@@ -255,5 +255,29 @@ TEST_F(SessionTest, AColourChosenWhileLockedWaitsForTheLockToEndAndItsBackground
   EXPECT_THAT(world.Rows(0), testing::SizeIs(4)) << "a session that is loaded ends the lock: rows open again";
 }
 
+TEST_F(SessionTest, ALoadWhileLockedKeepsTheSelectionAndShowsItWhenTheLockEnds) {
+  display.SetRunningByThemselves({11007});
+  const std::string selection = "{PORT?{PDATA?}}";
+  world.Keep("IOCtrlViews", "1");
+  world.Keep("IOSelection IOWnd0", selection);
+  world.LoadSession();
+  world.Expand(1, 0);
+  Lock();
+  const ScopedBstr path(world.dir.Path("device.IO"));
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(world.Server()->LoadIOFile(path.Get(), 0), 0);
+  EXPECT_THAT(world.Rows(0), ElementsAre("PORT", "TIMER"));
+  EXPECT_THAT(world.Rows(1), IsEmpty());
+  world.SaveSession();
+  EXPECT_EQ(world.Kept("IOSelection IOWnd0"), selection);
+
+  world.TakeReads();
+  Lock();
+  EXPECT_THAT(user, ElementsAre("dialog: Loading..."));
+  EXPECT_THAT(world.Rows(1), ElementsAre("PORT", "PDATA 00"));
+  EXPECT_EQ(world.TakeReads(), 2u) << "when its row opened, and behind that with all that is open";
+  Lock(), Lock();
+  EXPECT_THAT(user, testing::SizeIs(1)) << "once";
+}
+
 }  // namespace
 }  // namespace pvw
