@@ -29,27 +29,31 @@ platform::Status Evaluate(platform::BSTR text, std::int64_t* value, const Read& 
 
 platform::Status AddressFormat::QueryInterface(const platform::GUID* iid, void** out) {
   if (*iid == pvw::IID_IQErrorReporter) {
+    *out = nullptr;
+    if (!Enter("QueryInterface", iid)) return platform::E_FAIL;
     *out = static_cast<pvw::IQErrorReporter*>(&reporter_);
     return platform::S_OK;
   }
   return Service::QueryInterface(iid, out);
 }
 
-platform::Status AddressFormat::FormatAddress(std::uint32_t address, std::uint32_t /*space*/,
-                                              std::uint32_t mask, std::uint32_t /*flags*/,
-                                              platform::BSTR* text) {
+platform::Status AddressFormat::FormatAddress(std::uint32_t address, std::uint32_t space, std::uint32_t mask,
+                                              std::uint32_t flags, platform::BSTR* text) {
+  if (!Enter("FormatAddress", address, space, mask, flags)) return platform::E_FAIL;
   return GiveText("H'" + DigitsText(address & mask, 16, 8), text);
 }
 
 platform::Status AddressFormat::EvaluateExpression(platform::BSTR text, std::uint32_t radix,
                                                    std::int64_t* value) {
+  if (!Enter("EvaluateExpression", text, radix)) return platform::E_FAIL;
   if (radix == 0) radix = 16;
   if (radix != 16 && radix != 10 && radix != 8 && radix != 2) return kInvalidNumber;
   return Evaluate(text, value, [radix](std::string_view digits) { return ParseDigits(digits, radix); });
 }
 
-platform::Status AddressFormat::EvaluateExpression2(platform::BSTR text, std::uint32_t /*radix*/,
+platform::Status AddressFormat::EvaluateExpression2(platform::BSTR text, std::uint32_t radix,
                                                     std::int64_t* value) {
+  if (!Enter("EvaluateExpression2", text, radix)) return platform::E_FAIL;
   return Evaluate(text, value, ParseTypedNumber);
 }
 

@@ -8,8 +8,12 @@
 namespace ioview {
 
 // Explains its failures: asked for IQErrorReporter, it gives one.
-class AddressFormat final : public Service<pvw::IQAddressFormat, pvw::IID_IQAddressFormat> {
+class AddressFormat : public Service<pvw::IQAddressFormat, pvw::IID_IQAddressFormat> {
  public:
+  void LogTo(CallLog& calls) {
+    Service::LogTo(calls);
+    reporter_.LogTo(calls);
+  }
   platform::Status QueryInterface(const platform::GUID* iid, void** out) override;
 
   // H' and the eight upper-case digits of `address` within `mask`. This host has one address space and no

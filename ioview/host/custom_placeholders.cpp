@@ -43,12 +43,14 @@ void CustomPlaceholders::SetOfWorkspace(CustomPlaceholder placeholder) {
 }
 
 platform::Status CustomPlaceholders::GetGlobalPlaceholders(platform::VARIANT* list) {
+  if (!Enter("GetGlobalPlaceholders")) return platform::E_FAIL;
   *list = {};
   return Give(global_, list);
 }
 
 platform::Status CustomPlaceholders::GetWorkspacePlaceholders(platform::BSTR workspace,
                                                               platform::VARIANT* list) {
+  if (!Enter("GetWorkspacePlaceholders", workspace)) return platform::E_FAIL;
   *list = {};
   if (!workspace_.IsOpen() || platform::BstrText(workspace) != workspace_.name) return platform::E_FAIL;
   return Give(of_workspace_, list);

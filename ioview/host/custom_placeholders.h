@@ -17,7 +17,7 @@ struct CustomPlaceholder {
   std::string description;
 };
 
-class CustomPlaceholders final : public Service<pvw::IQCustomPlaceholders, pvw::IID_IQCustomPlaceholders> {
+class CustomPlaceholders : public Service<pvw::IQCustomPlaceholders, pvw::IID_IQCustomPlaceholders> {
  public:
   explicit CustomPlaceholders(const Workspace& workspace) : workspace_(workspace) {}
 

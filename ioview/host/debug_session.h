@@ -7,15 +7,17 @@
 namespace ioview {
 
 // The target is stopped at first.
-class DebugSession final : public Service<pvw::IQDebugSession, pvw::IID_IQDebugSession> {
+class DebugSession : public Service<pvw::IQDebugSession, pvw::IID_IQDebugSession> {
  public:
   void SetRunning(bool running) { running_ = running; }
-  platform::Status IsTargetRunning() override { return running_ ? platform::S_OK : platform::E_FAIL; }
+  platform::Status IsTargetRunning() override {
+    return Enter("IsTargetRunning") && running_ ? platform::S_OK : platform::E_FAIL;
+  }
 
  private:
   bool running_ = false;
 };
 
-class Debugger final : public Service<pvw::IQDebugger, pvw::IID_IQDebugger> {};
+class Debugger : public Service<pvw::IQDebugger, pvw::IID_IQDebugger> {};
 
 }  // namespace ioview

@@ -20,11 +20,11 @@ std::string_view ErrorText(platform::Status status) {
 }
 
 platform::Status ErrorService::GetErrorText(platform::Status status, platform::BSTR* text) {
-  return GiveText(ErrorText(status), text);
+  return Enter("GetErrorText", status) ? GiveText(ErrorText(status), text) : platform::E_FAIL;
 }
 
 platform::Status ErrorReporter::GetErrorText(platform::Status status, platform::BSTR* text) {
-  return GiveText(ErrorText(status), text);
+  return Enter("GetErrorText", status) ? GiveText(ErrorText(status), text) : platform::E_FAIL;
 }
 
 }  // namespace ioview

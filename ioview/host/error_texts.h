@@ -11,13 +11,13 @@ namespace ioview {
 // Empty for a status that this host has no text for.
 std::string_view ErrorText(platform::Status status);
 
-class ErrorService final : public Service<pvw::IQErrorService, pvw::IID_IQErrorService> {
+class ErrorService : public Service<pvw::IQErrorService, pvw::IID_IQErrorService> {
  public:
   // Gives a text, empty or not, for every status.
   platform::Status GetErrorText(platform::Status status, platform::BSTR* text) override;
 };
 
-class ErrorReporter final : public Service<pvw::IQErrorReporter, pvw::IID_IQErrorReporter> {
+class ErrorReporter : public Service<pvw::IQErrorReporter, pvw::IID_IQErrorReporter> {
  public:
   platform::Status GetErrorText(platform::Status status, platform::BSTR* text) override;
 };

@@ -1,21 +1,30 @@
 #include "ioview/host/host_services.h"
 
+#include <tuple>
+
+#include "ioview/host/service_table.h"
+
 namespace ioview {
 
-HostServices::HostServices() {
-  root.Provide<pvw::IQErrorService>(pvw::IID_IQErrorService, &errors);
-  root.Provide<pvw::IQNumberFormat>(pvw::IID_IQNumberFormat, &numbers);
-  root.Provide<pvw::IQAddressFormat>(pvw::IID_IQAddressFormat, &addresses);
-  root.Provide<pvw::IQDebugSession>(pvw::IID_IQDebugSession, &session);
-  root.Provide<pvw::IQDebugger>(pvw::IID_IQDebugger, &debugger);
-  root.Provide<pvw::IQTargetMemory>(pvw::IID_IQTargetMemory, &memory);
-  root.Provide<pvw::IQBlockMemory>(pvw::IID_IQBlockMemory, &blocks);
-  root.Provide<pvw::IQMemoryMap>(pvw::IID_IQMemoryMap, &map);
-  root.Provide<pvw::IQPathService>(pvw::IID_IQPathService, &paths);
-  root.Provide<pvw::IQWorkspaceInfo>(pvw::IID_IQWorkspaceInfo, &workspace_info);
-  root.Provide<pvw::IQCustomPlaceholders>(pvw::IID_IQCustomPlaceholders, &placeholders);
-  root.Provide<pvw::IQDeviceInfo>(pvw::IID_IQDeviceInfo, &device);
-  root.Provide<pvw::IQCommandRecorder>(pvw::IID_IQCommandRecorder, &recorder);
+HostServices::HostServices(UserSettings& user_settings) : settings(user_settings) {
+  const auto provide = [this](auto&... services) { (Provide(services), ...); };
+  provide(session, placeholders, device, recorder, errors, numbers, addresses, debugger, memory, blocks, map,
+          library, paths, workspace_info, data_manager, settings_service, ui_manager, toolbars, pages);
+  std::apply(provide, plain);
+  root.SetAvailability(pvw::IID_IQDebugPlatform, Availability::kOff);
+}
+
+bool HostServices::SetAvailability(std::string_view service, Availability availability) {
+  const ServiceEntry* entry = FindService(service);
+  if (entry != nullptr) root.SetAvailability(entry->id, availability);
+  return entry != nullptr;
+}
+
+template <typename Real>
+void HostServices::Provide(WithFailing<Real>& service) {
+  service.LogTo(calls);
+  service.failing.LogTo(calls);
+  root.Provide<typename Real::Face>(Real::kId, &service, &service.failing);
 }
 
 }  // namespace ioview

@@ -35,6 +35,7 @@ platform::Status Format(std::uint64_t value, unsigned bits, std::uint32_t radix,
 }  // namespace
 
 platform::Status NumberFormat::ParseValue(platform::BSTR text, std::uint64_t* value) {
+  if (!Enter("ParseValue", text)) return platform::E_FAIL;
   const std::optional<std::uint64_t> number = ParseTypedNumber(platform::BstrText(text));
   if (!number) return kInvalidNumber;
   *value = *number;
@@ -42,19 +43,23 @@ platform::Status NumberFormat::ParseValue(platform::BSTR text, std::uint64_t* va
 }
 
 platform::Status NumberFormat::FormatByte(std::uint8_t value, std::uint32_t radix, platform::BSTR* text) {
+  if (!Enter("FormatByte", value, radix)) return platform::E_FAIL;
   return Format(value, 8, radix, text);
 }
 
 platform::Status NumberFormat::FormatWord(std::uint16_t value, std::uint32_t radix, platform::BSTR* text) {
+  if (!Enter("FormatWord", value, radix)) return platform::E_FAIL;
   return Format(value, 16, radix, text);
 }
 
 platform::Status NumberFormat::FormatLong(std::uint32_t value, std::uint32_t radix, platform::BSTR* text) {
+  if (!Enter("FormatLong", value, radix)) return platform::E_FAIL;
   return Format(value, 32, radix, text);
 }
 
 platform::Status NumberFormat::FormatQuad(std::uint32_t low, std::uint32_t high, std::uint32_t radix,
                                           platform::BSTR* text) {
+  if (!Enter("FormatQuad", low, high, radix)) return platform::E_FAIL;
   return Format(std::uint64_t{high} << 32 | low, 64, radix, text);
 }
 

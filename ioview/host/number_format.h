@@ -6,7 +6,7 @@
 
 namespace ioview {
 
-class NumberFormat final : public Service<pvw::IQNumberFormat, pvw::IID_IQNumberFormat> {
+class NumberFormat : public Service<pvw::IQNumberFormat, pvw::IID_IQNumberFormat> {
  public:
   // Reads what ParseTypedNumber reads. Any other text is kInvalidNumber and stores nothing.
   platform::Status ParseValue(platform::BSTR text, std::uint64_t* value) override;

@@ -35,47 +35,56 @@ bool IsOpen(const Workspace& open, platform::BSTR workspace, platform::BSTR proj
 }  // namespace
 
 platform::Status PathService::GetInstallDirectory(platform::BSTR* directory) {
+  if (!Enter("GetInstallDirectory")) return platform::E_FAIL;
   const std::string file = platform::GetModuleFileName(&kInProgram).value_or(std::string());
   const std::size_t backslash = platform::FindLastChar(file, '\\');
   return GiveIf(backslash != std::string::npos, file.substr(0, backslash), directory);
 }
 
 platform::Status PathService::GetTempDirectory(platform::BSTR* directory) {
+  if (!Enter("GetTempDirectory")) return platform::E_FAIL;
   std::string path = platform::GetTempPath();
   if (!path.empty() && platform::FindLastChar(path, '\\') == path.size() - 1) path.pop_back();
   return GiveText(path, directory);
 }
 
 platform::Status PathService::GetCurrentConfiguration(platform::BSTR* name) {
+  if (!Enter("GetCurrentConfiguration")) return platform::E_FAIL;
   return GiveText(workspace_.configuration, name);
 }
 
 platform::Status PathService::GetCurrentProject(platform::BSTR* name) {
+  if (!Enter("GetCurrentProject")) return platform::E_FAIL;
   return GiveText(workspace_.project, name);
 }
 
 platform::Status PathService::GetCurrentWorkspace(platform::BSTR* name) {
+  if (!Enter("GetCurrentWorkspace")) return platform::E_FAIL;
   return GiveText(workspace_.name, name);
 }
 
 platform::Status PathService::GetConfigurationDisplayName(platform::BSTR workspace, platform::BSTR project,
                                                           platform::BSTR configuration,
                                                           platform::BSTR* name) {
+  if (!Enter("GetConfigurationDisplayName", workspace, project, configuration)) return platform::E_FAIL;
   return GiveIf(IsOpen(workspace_, workspace, project, configuration), workspace_.configuration, name);
 }
 
 platform::Status PathService::GetProjectDisplayName(platform::BSTR workspace, platform::BSTR project,
                                                     platform::BSTR* name) {
+  if (!Enter("GetProjectDisplayName", workspace, project)) return platform::E_FAIL;
   return GiveIf(IsOpen(workspace_, workspace, project), workspace_.project, name);
 }
 
 platform::Status PathService::GetWorkspaceDisplayName(platform::BSTR workspace, platform::BSTR* name) {
+  if (!Enter("GetWorkspaceDisplayName", workspace)) return platform::E_FAIL;
   return GiveIf(IsOpen(workspace_, workspace), workspace_.name, name);
 }
 
 platform::Status PathService::GetConfigurationDirectory(platform::BSTR workspace, platform::BSTR project,
                                                         platform::BSTR configuration,
                                                         platform::BSTR* directory) {
+  if (!Enter("GetConfigurationDirectory", workspace, project, configuration)) return platform::E_FAIL;
   return GiveIf(IsOpen(workspace_, workspace, project, configuration),
                 workspace_.directory + '\\' + workspace_.project + '\\' + workspace_.configuration,
                 directory);
@@ -83,15 +92,18 @@ platform::Status PathService::GetConfigurationDirectory(platform::BSTR workspace
 
 platform::Status PathService::GetProjectDirectory(platform::BSTR workspace, platform::BSTR project,
                                                   platform::BSTR* directory) {
+  if (!Enter("GetProjectDirectory", workspace, project)) return platform::E_FAIL;
   return GiveIf(IsOpen(workspace_, workspace, project), workspace_.directory + '\\' + workspace_.project,
                 directory);
 }
 
 platform::Status PathService::GetWorkspaceDirectory(platform::BSTR workspace, platform::BSTR* directory) {
+  if (!Enter("GetWorkspaceDirectory", workspace)) return platform::E_FAIL;
   return GiveIf(IsOpen(workspace_, workspace), workspace_.directory, directory);
 }
 
 platform::Status PathService::IsWorkspaceOpen(std::uint32_t* open) {
+  if (!Enter("IsWorkspaceOpen")) return platform::E_FAIL;
   *open = workspace_.IsOpen() ? 1 : 0;
   return platform::S_OK;
 }

@@ -10,7 +10,7 @@ namespace ioview {
 // Directories are drive paths without a trailing backslash: a project's lies in the workspace's and has the
 // project's name, a configuration's lies in the project's. Asked for another workspace, project or
 // configuration than the open one, an operation fails and gives null.
-class PathService final : public Service<pvw::IQPathService, pvw::IID_IQPathService> {
+class PathService : public Service<pvw::IQPathService, pvw::IID_IQPathService> {
  public:
   explicit PathService(const Workspace& workspace) : workspace_(workspace) {}
 

@@ -7,21 +7,24 @@
 
 namespace ioview {
 
-class TargetMemory final : public Service<pvw::IQTargetMemory, pvw::IID_IQTargetMemory> {
+class TargetMemory : public Service<pvw::IQTargetMemory, pvw::IID_IQTargetMemory> {
  public:
   explicit TargetMemory(SimulatedTarget& target) : target_(target) {}
 
   // Both give the bytes in the order of their addresses; the log tells them apart.
   platform::Status ReadDirect(std::uint32_t first, std::uint32_t last, std::uint32_t width,
                               std::uint8_t* buffer) override {
+    if (!Enter("ReadDirect", first, last, width, buffer)) return platform::E_FAIL;
     return target_.Read(Access::Kind::kRead, first, last, width, buffer);
   }
   platform::Status ReadDirectLittle(std::uint32_t first, std::uint32_t last, std::uint32_t width,
                                     std::uint8_t* buffer) override {
+    if (!Enter("ReadDirectLittle", first, last, width, buffer)) return platform::E_FAIL;
     return target_.Read(Access::Kind::kReadLittle, first, last, width, buffer);
   }
   platform::Status WriteMemory(std::uint32_t first, std::uint32_t last, std::uint32_t width,
                                const std::uint8_t* buffer) override {
+    if (!Enter("WriteMemory", first, last, width, buffer)) return platform::E_FAIL;
     return target_.Write(first, last, width, buffer);
   }
 
@@ -29,7 +32,7 @@ class TargetMemory final : public Service<pvw::IQTargetMemory, pvw::IID_IQTarget
   SimulatedTarget& target_;
 };
 
-class BlockMemory final : public Service<pvw::IQBlockMemory, pvw::IID_IQBlockMemory> {
+class BlockMemory : public Service<pvw::IQBlockMemory, pvw::IID_IQBlockMemory> {
  public:
   explicit BlockMemory(SimulatedTarget& target) : target_(target) {}
 

@@ -8,7 +8,7 @@
 namespace ioview {
 
 // Every name is its own key. The three current names are empty when no workspace is open.
-class WorkspaceInfo final : public Service<pvw::IQWorkspaceInfo, pvw::IID_IQWorkspaceInfo> {
+class WorkspaceInfo : public Service<pvw::IQWorkspaceInfo, pvw::IID_IQWorkspaceInfo> {
  public:
   explicit WorkspaceInfo(const Workspace& workspace) : workspace_(workspace) {}
 
