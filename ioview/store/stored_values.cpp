@@ -1,0 +1,69 @@
+#include "ioview/store/stored_values.h"
+
+#include <utility>
+
+namespace ioview {
+
+std::size_t SessionValues::Session::PlaceOf(std::u16string_view key) const {
+  if (next < entries.size() && entries[next].key == key) return next++;
+  const auto found = places.find(key);
+  const std::size_t at = found != places.end() ? found->second : entries.size();
+  next = at + 1;
+  return at;
+}
+
+void SessionValues::Set(const Names& names, std::u16string_view key, std::u16string_view value) {
+  const auto [place, is_new] = places_.try_emplace(names, sessions_.size());
+  if (is_new) sessions_.emplace_back(names, Session());
+  Session& session = sessions_[place->second].second;
+  const std::size_t at = session.PlaceOf(key);
+  if (at == session.entries.size()) {
+    session.places.emplace(key, at);
+    session.entries.push_back({std::u16string(key), std::u16string(value)});
+  } else {
+    std::u16string& stored = session.entries[at].value;
+    if (stored == value) return;
+    stored = value;
+  }
+  ++changes_;
+}
+
+const std::u16string* SessionValues::Find(const Names& names, std::u16string_view key) const {
+  const auto place = places_.find(names);
+  if (place == places_.end()) return nullptr;
+  const Session& session = sessions_[place->second].second;
+  const std::size_t at = session.PlaceOf(key);
+  return at < session.entries.size() ? &session.entries[at].value : nullptr;
+}
+
+const std::vector<SessionValues::Entry>& SessionValues::Entries(const Names& names) const {
+  static const std::vector<Entry> kNone;
+  const auto place = places_.find(names);
+  return place != places_.end() ? sessions_[place->second].second.entries : kNone;
+}
+
+std::vector<SessionValues::Names> SessionValues::AllNames() const {
+  std::vector<Names> all;
+  for (const auto& [names, session] : sessions_) all.push_back(names);
+  return all;
+}
+
+void UserSettings::Set(std::u16string_view section, std::u16string_view key, Value value) {
+  const auto [place, is_new] =
+      places_.try_emplace({std::u16string(section), std::u16string(key)}, entries_.size());
+  if (is_new) {
+    entries_.push_back({place->first.first, place->first.second, std::move(value)});
+  } else {
+    Value& stored = entries_[place->second].value;
+    if (stored == value) return;
+    stored = std::move(value);
+  }
+  ++changes_;
+}
+
+const UserSettings::Value* UserSettings::Find(std::u16string_view section, std::u16string_view key) const {
+  const auto place = places_.find({std::u16string(section), std::u16string(key)});
+  return place != places_.end() ? &entries_[place->second].value : nullptr;
+}
+
+}  // namespace ioview

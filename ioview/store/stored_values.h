@@ -1,0 +1,81 @@
+// What a host keeps for its components: the values of sessions and the settings of the user. Both keep the
+// order in which keys were first stored.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <unordered_map>
+#include <variant>
+#include <vector>
+
+namespace ioview {
+
+// Values by workspace, project, configuration and key. All texts are as they came over the host's
+// interfaces.
+class SessionValues {
+ public:
+  struct Names {
+    std::u16string workspace, project, configuration;
+    auto operator<=>(const Names&) const = default;
+  };
+  struct Entry {
+    std::u16string key, value;
+  };
+
+  void Set(const Names& names, std::u16string_view key, std::u16string_view value);
+  // Null when the key is missing. Good until the next Set.
+  const std::u16string* Find(const Names& names, std::u16string_view key) const;
+  // Empty where nothing is stored.
+  const std::vector<Entry>& Entries(const Names& names) const;
+  // Every combination of names that has a value, in the order of their first values.
+  std::vector<Names> AllNames() const;
+  // Counts changes: a value that was new or differed from the one before.
+  std::size_t Changes() const { return changes_; }
+
+ private:
+  struct Hash {
+    using is_transparent = void;
+    std::size_t operator()(std::u16string_view key) const { return std::hash<std::u16string_view>()(key); }
+  };
+  struct Session {
+    std::vector<Entry> entries;
+    std::unordered_map<std::u16string, std::size_t, Hash, std::equal_to<>> places;
+    // Behind the entry that was asked for last: a component saves and loads its keys in one order.
+    mutable std::size_t next = 0;
+    // The number of entries for a key that there is none of.
+    std::size_t PlaceOf(std::u16string_view key) const;
+  };
+
+  std::map<Names, std::size_t> places_;
+  std::vector<std::pair<Names, Session>> sessions_;
+  std::size_t changes_ = 0;
+};
+
+// Numbers and texts by key, or by section and key.
+class UserSettings {
+ public:
+  using Value = std::variant<std::int32_t, std::u16string>;
+  struct Entry {
+    std::u16string section;  // empty for a key outside of sections
+    std::u16string key;
+    Value value;
+  };
+
+  void Set(std::u16string_view section, std::u16string_view key, Value value);
+  // Null when the key is missing. Good until the next Set.
+  const Value* Find(std::u16string_view section, std::u16string_view key) const;
+  const std::vector<Entry>& Entries() const { return entries_; }
+  std::size_t Changes() const { return changes_; }
+
+ private:
+  std::vector<Entry> entries_;
+  std::map<std::pair<std::u16string, std::u16string>, std::size_t> places_;
+  std::size_t changes_ = 0;
+};
+
+}  // namespace ioview

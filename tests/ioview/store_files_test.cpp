@@ -1,0 +1,214 @@
+// Sessions and settings on disk: what comes back, and what becomes of files that can't be used.
+
+#include "ioview/store/store_files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "ioview/store/store_text.h"
+#include "tests/support/temp_dir.h"
+
+namespace ioview {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class StoreFiles : public testing::Test {
+ protected:
+  std::string Native(std::string_view name) const { return dir_.Native(name).string(); }
+  std::string Content(std::string_view name) const {
+    std::ifstream file(dir_.Native(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+  pvw::test::TempDir dir_;
+  LoadNotes notes_;
+  std::string why_;
+};
+
+TEST(StoredText, GivesEveryTextBack) {
+  using namespace std::string_literals;
+  struct {
+    const char* name;
+    std::u16string text;
+    std::string stored;
+  } const cases[] = {
+      {"one to three bytes", u"a\u00E9\u20AC", "a\xC3\xA9\xE2\x82\xAC"},
+      {"the first and the last pair", u"\U00010000\U0010FFFF", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
+      {"a lone lead at the end", u"a"s + char16_t(0xD800), "a\0D800"s},
+      {"a trail before its lead", std::u16string{0xDC80, 0xD800, u'x'}, "\0DC80\0D800x"s},
+      {"a zero that looks like a mark", u"\0DC80"s, "\0"s + "0000DC80"},
+      {"a zero at the end", u"a\0"s, "a\0"s + "0000"},
+  };
+  for (const auto& row : cases) {
+    EXPECT_EQ(StoredText(row.text), row.stored) << row.name;
+    EXPECT_EQ(TextFromStore(StoredText(row.text)), row.text) << row.name;
+  }
+  EXPECT_EQ(TextFromStore("\0xyz1\0"s), u"\0xyz1\0"s);
+  EXPECT_EQ(TextFromStore("\x80\xE2\x82"), u"\uFFFD\uFFFD\uFFFD");
+}
+
+TEST_F(StoreFiles, ASessionComesBackInItsOrder) {
+  using namespace std::string_literals;
+  SessionValues values;
+  values.Set({u"w", u"p", u"Release"}, u"z", u"1");
+  values.Set({u"w", u"p", u"Debug"}, u"b", u"line\n\"quoted\"\\");
+  values.Set({u"w", u"p", u"Debug"}, u"a\0"s, std::u16string{0xDC81});
+  values.Set({u"w", u"p", u"Release"}, u"", u"");
+  const std::string path = SessionFileOf(Native("work"));
+  ASSERT_TRUE(SaveSessionFile(path, values, why_)) << why_;
+
+  const SessionValues again = LoadSessionFile(path, notes_);
+  EXPECT_THAT(notes_.lines, IsEmpty());
+  EXPECT_EQ(again.AllNames(), values.AllNames());
+  for (const SessionValues::Names& names : values.AllNames()) {
+    const auto& expected = values.Entries(names);
+    const auto& entries = again.Entries(names);
+    ASSERT_EQ(entries.size(), expected.size());
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      EXPECT_EQ(entries[i].key, expected[i].key);
+      EXPECT_EQ(entries[i].value, expected[i].value);
+    }
+  }
+  EXPECT_TRUE(LoadSessionFile(Native("elsewhere"), notes_).AllNames().empty());
+  EXPECT_THAT(notes_.lines, IsEmpty());
+}
+
+TEST_F(StoreFiles, SettingsComeBackAndANoteOfTheUserStays) {
+  dir_.Write("s.json", R"({"note": {"mine": [1]}, "settings": [], "window": "00"})");
+  SettingsContents contents;
+  contents.settings.Set(u"S", u"K", -2147483647 - 1);
+  contents.settings.Set(u"", u"K", u"text");
+  contents.settings.Set(u"S", u"L", 2147483647);
+  contents.global_placeholders = {{"N", "V", "D"}, {"M", "", ""}};
+  contents.window_layout = std::string("\0\xFF\x7Fz", 4);
+  const std::string path = Native("s.json");
+  ASSERT_TRUE(SaveSettingsFile(path, contents, why_)) << why_;
+
+  const SettingsContents again = LoadSettingsFile(path, notes_);
+  EXPECT_THAT(notes_.lines, IsEmpty());
+  EXPECT_EQ(again.window_layout, contents.window_layout);
+  ASSERT_EQ(again.settings.Entries().size(), 3u);
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_EQ(again.settings.Entries()[i].section, contents.settings.Entries()[i].section);
+    EXPECT_EQ(again.settings.Entries()[i].value, contents.settings.Entries()[i].value);
+  }
+  ASSERT_EQ(again.global_placeholders.size(), 2u);
+  EXPECT_EQ(again.global_placeholders[0].description, "D");
+  EXPECT_THAT(Content("s.json"), HasSubstr("\"mine\""));
+}
+
+TEST_F(StoreFiles, ABadFileIsKeptAsideAndTheStoreStartsEmpty) {
+  const std::string deep(100'000, '[');
+  struct {
+    const char* name;
+    std::string content;
+    const char* fault;
+  } const cases[] = {
+      {"cut off", "{\n\"sessions\": [", "it isn't JSON from line 2 on"},
+      {"empty", "", "it isn't JSON"},
+      {"not UTF-8", "{\"sessions\": \"\xFF\"}", "it isn't JSON"},
+      {"a lone surrogate", R"({"sessions": "\ud800"})", "it isn't JSON"},
+      {"a list", "[]", "it holds no object"},
+      {"nested without end", deep, "nested too deeply"},
+      {"nested below a member of others", "{\"x\":" + deep.substr(0, 64) + std::string(64, ']') + "}",
+       "nested too deeply"},
+      {"sessions of another type", R"({"sessions": {}})", "\"sessions\" is no list"},
+      {"a session that is none", R"({"sessions": [1]})", "\"sessions\" is no list of objects"},
+      {"a session without names", R"({"sessions": [{}]})", "\"workspace\" is missing"},
+      {"a value that is a number",
+       R"({"sessions": [{"workspace": "", "project": "", "configuration": "", "values": {"a": "b", "k": 5}}]})",
+       "\"values\" is no text"},
+  };
+  const std::string path = Native("session.json");
+  for (std::size_t i = 0; i < std::size(cases); ++i) {
+    SCOPED_TRACE(cases[i].name);
+    dir_.Write("session.json", cases[i].content);
+    notes_ = {};
+    EXPECT_TRUE(LoadSessionFile(path, notes_).AllNames().empty());
+    const std::string aside = "session.json.bad" + (i > 0 ? std::to_string(i + 1) : "");
+    ASSERT_THAT(notes_.lines, ElementsAre(HasSubstr(cases[i].fault)));
+    EXPECT_THAT(notes_.lines[0], testing::AllOf(testing::StartsWith(path + " can't be used: "),
+                                                testing::EndsWith("It is kept as " + Native(aside) + ".")));
+    EXPECT_FALSE(fs::exists(path));
+    EXPECT_EQ(Content(aside), cases[i].content);
+  }
+  // So is something that is no file at all.
+  fs::create_directory(path);
+  LoadSessionFile(path, notes_);
+  EXPECT_THAT(notes_.lines.back(), HasSubstr("it can't be read"));
+  EXPECT_FALSE(fs::exists(path));
+}
+
+TEST_F(StoreFiles, SettingsOfAnotherShapeAreKeptAside) {
+  struct {
+    const char* content;
+    const char* fault;
+  } const cases[] = {
+      {R"({"settings": [{"key": "K", "value": 2147483648}]})", "neither text nor a number of 32 bits"},
+      {R"({"settings": [{"key": "K", "value": -2147483649}]})", "neither text nor a number of 32 bits"},
+      {R"({"settings": [{"key": "K", "value": 18446744073709551616}]})", "neither text nor"},
+      {R"({"settings": [{"key": "K", "value": 1.0}]})", "neither text nor"},
+      {R"({"settings": [{"key": 1, "value": 1}]})", "\"key\" is no text"},
+      {R"({"settings": [{"key": "K"}]})", "\"value\" is missing"},
+      {R"({"placeholders": [{"value": "V"}]})", "\"name\" is missing"},
+      {R"({"window": "0g"})", "\"window\" is no row of hexadecimal digits"},
+      {R"({"window": "000"})", "\"window\" is no row of hexadecimal digits"},
+  };
+  for (const auto& row : cases) {
+    dir_.Write("s.json", row.content);
+    notes_ = {};
+    EXPECT_TRUE(LoadSettingsFile(Native("s.json"), notes_).settings.Entries().empty());
+    EXPECT_THAT(notes_.lines, ElementsAre(HasSubstr(row.fault))) << row.content;
+  }
+}
+
+TEST_F(StoreFiles, WhatCannotBeWrittenStaysAsItWas) {
+  // A file that went bad after it was loaded is kept aside as well.
+  dir_.Write("session.json", "{,}");
+  SessionValues values;
+  values.Set({}, u"k", u"v");
+  EXPECT_TRUE(SaveSessionFile(Native("session.json"), values, why_));
+  EXPECT_EQ(Content("session.json.bad"), "{,}");
+
+  const std::string before = Content("session.json");
+  fs::permissions(Native("session.json"), fs::perms::owner_read);
+  values.Set({}, u"k", u"w");
+  EXPECT_FALSE(SaveSessionFile(Native("session.json"), values, why_));
+  EXPECT_THAT(why_, testing::StartsWith(Native("session.json") + " can't be written: "));
+  EXPECT_EQ(Content("session.json"), before);
+
+  // A file where the folder should be, and no place at all.
+  dir_.Write(".ioview", "mine");
+  EXPECT_FALSE(SaveSessionFile(SessionFileOf(dir_.Native().string()), values, why_));
+  EXPECT_THAT(why_, HasSubstr("its folder can't be made"));
+  EXPECT_FALSE(SaveSettingsFile("", {}, why_));
+}
+
+TEST_F(StoreFiles, SettingsLieWhereTheUserKeepsConfigurations) {
+  const char* const config = std::getenv("XDG_CONFIG_HOME");
+  const char* const home = std::getenv("HOME");
+  const std::string old_config = config != nullptr ? config : "", old_home = home != nullptr ? home : "";
+  setenv("HOME", "/home/ann", 1);
+  setenv("XDG_CONFIG_HOME", "/cfg", 1);
+  EXPECT_EQ(DefaultSettingsFile(), "/cfg/ioview/settings.json");
+  setenv("XDG_CONFIG_HOME", "relative", 1);
+  EXPECT_EQ(DefaultSettingsFile(), "/home/ann/.config/ioview/settings.json");
+  unsetenv("HOME");
+  EXPECT_THAT(DefaultSettingsFile(), testing::EndsWith("/.config/ioview/settings.json"));
+  config != nullptr ? setenv("XDG_CONFIG_HOME", old_config.c_str(), 1) : unsetenv("XDG_CONFIG_HOME");
+  if (home != nullptr) setenv("HOME", old_home.c_str(), 1);
+}
+
+}  // namespace
+}  // namespace ioview
