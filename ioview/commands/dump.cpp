@@ -1,20 +1,14 @@
 #include "ioview/commands/dump.h"
 
-#include <cstdint>
 #include <cstdio>
-#include <initializer_list>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
+#include <vector>
 
-#include "ioview/host/host_services.h"
-#include "ioview/interim/view_dump.h"
-#include "ioview/memory_file.h"
-#include "ioview/message_printer.h"
-#include "ioview/native_file.h"
-#include "ioview/number_text.h"
+#include "ioview/commands/device_options.h"
+#include "ioview/component/headless_stage.h"
+#include "ioview/component/instance.h"
 #include "ioview/program_error.h"
 #include "ioview/standard_output.h"
 #include "platform/base/text.h"
@@ -53,63 +47,78 @@ constexpr char kFooter[] =
     "Exit status: 0 when the text was written, whatever the messages; 2 when a file can't\n"
     "be opened or an option is wrong.";
 
+enum class OpenRows { kNone, kModules, kAll };
+
 // The words of the command line as they stand.
 struct DumpArguments {
-  std::string file;
-  std::string base = "0";
-  std::optional<std::string> memory;
-  std::string endian = "big";
+  DeviceOptions device;
   std::string open = "modules";
   std::string page = "all";
   std::string selection;
-  std::string code_page = "65001";
 };
 
-// What the word of an option stands for; throws ProgramError for one that isn't listed.
-template <typename Value>
-Value Choose(std::string_view option, std::string_view word,
-             std::initializer_list<std::pair<std::string_view, Value>> choices) {
-  std::string names;
-  for (const auto& [name, value] : choices) {
-    if (name == word) return value;
-    names += (names.empty() ? "" : ", ") + std::string(name);
-  }
-  throw ProgramError(std::string(option) + ": " + Quoted(word) + " is not one of " + names);
+// A key of the component's session, with the identity that it stores under.
+constexpr std::string_view kSelectionKey = "{F866DB60-6186-11D5-8BBE-0004E2013C71}IOSelection IOWnd0";
+
+// What the component shows goes to standard error; only what it says about the file is of interest.
+void PrintMessage(const std::string& line) {
+  if (!line.starts_with("message")) return;
+  std::fprintf(stderr, "%s\n", line.c_str());
+  std::fflush(stderr);
 }
 
-std::uint32_t BaseAddress(std::string_view word) {
-  const std::optional<std::uint32_t> base = ParseHexWord(word, 8);
-  if (!base) {
-    throw ProgramError("--base: " + Quoted(word) + " is not a hexadecimal number of up to eight digits");
+// Opens rows in the order in which they are shown, and closes what the view has opened by itself below them.
+void OpenTheRows(platform::SECTreeCtrl& grid, OpenRows which) {
+  if (which != OpenRows::kAll) {
+    for (std::size_t row = grid.GetRowCount(); row-- > 0;) {
+      grid.Expand(grid.GetItemAtRow(row), platform::TVE_COLLAPSE);
+    }
   }
-  return *base;
+  if (which == OpenRows::kNone) return;
+  std::vector<platform::HTREEITEM> modules;
+  for (std::size_t row = 0; which == OpenRows::kModules && row < grid.GetRowCount(); ++row) {
+    modules.push_back(grid.GetItemAtRow(row));
+  }
+  for (const platform::HTREEITEM module : modules) grid.Expand(module, platform::TVE_EXPAND);
+  for (std::size_t row = 0; which == OpenRows::kAll && row < grid.GetRowCount(); ++row) {
+    grid.Expand(grid.GetItemAtRow(row), platform::TVE_EXPAND);
+  }
+}
+
+void WriteLines(std::string_view text) {
+  std::string lines;
+  lines.reserve(text.size());
+  for (const char c : text) {
+    if (c != '\r') lines += c;
+  }
+  WriteOutput(lines);
 }
 
 void RunDump(const DumpArguments& arguments) {
-  interim::DumpRequest request;
-  request.selection = arguments.selection;
-  request.page = Choose<interim::Page>(
-      "--pane", arguments.page, {{"all", interim::Page::kAll}, {"selected", interim::Page::kSelected}});
-  request.open = Choose<interim::OpenRows>("--open", arguments.open,
-                                           {{"none", interim::OpenRows::kNone},
-                                            {"modules", interim::OpenRows::kModules},
-                                            {"all", interim::OpenRows::kAll}});
-  const ByteOrder order = Choose<ByteOrder>("--endian", arguments.endian,
-                                            {{"big", ByteOrder::kBig}, {"little", ByteOrder::kLittle}});
-  const unsigned code_page = Choose<unsigned>("--codepage", arguments.code_page,
-                                              {{"65001", 65001u}, {"1252", 1252u}, {"932", 932u}});
+  const PaneIndex page = Choose<PaneIndex>("--pane", arguments.page,
+                                           {{"all", PaneIndex::kAll}, {"selected", PaneIndex::kSelected}});
+  const OpenRows open =
+      Choose<OpenRows>("--open", arguments.open,
+                       {{"none", OpenRows::kNone}, {"modules", OpenRows::kModules}, {"all", OpenRows::kAll}});
+  arguments.device.SetCodePage();
+  UserSettings settings = arguments.device.LoadSettings();
 
-  HostServices host;
-  host.device.SetBaseAddress(BaseAddress(arguments.base));
-  host.target.SetArea({0, 0xFFFFFFFF, order});
-  if (arguments.memory) LoadMemoryFile(host.target, *arguments.memory);
-
-  platform::SetAnsiCodePage(code_page);
-  RequireReadableFile(arguments.file);
-  request.path = DrivePathOf(arguments.file);
-
-  const MessagePrinter messages(stderr);
-  interim::WriteViewDump(host.root, request, WriteOutput);
+  const HeadlessStage stage(PrintMessage);
+  const ComponentLibrary library;
+  Instance instance(library, settings);
+  arguments.device.Prepare(instance.host);
+  if (!arguments.selection.empty()) {
+    const Workspace& workspace = instance.host.workspace;
+    instance.host.session_values.Set({platform::ToWide(workspace.name), platform::ToWide(workspace.project),
+                                      platform::ToWide(workspace.configuration)},
+                                     platform::ToWide(kSelectionKey), platform::ToWide(arguments.selection));
+  }
+  if (platform::Failed(instance.Start(true))) throw ProgramError("The component can't be connected");
+  Instance::RunCommand(kOpenViewCommand, instance.Frame());
+  platform::SECTreeCtrl* const grid = instance.Grid(page);
+  if (grid == nullptr) throw ProgramError("The component has opened no view");
+  OpenTheRows(*grid, open);
+  WriteLines(grid->GetDumpText());
   FlushOutput();
 }
 
@@ -119,22 +128,14 @@ void AddDumpCommand(CLI::App& app) {
   const auto arguments = std::make_shared<DumpArguments>();
   CLI::App* dump = app.add_subcommand("dump", kAbout);
   dump->footer(kFooter);
-  dump->add_option("FILE", arguments->file, "The I/O definition file, of any name")
-      ->required()
-      ->type_name("");
+  arguments->device.AddTo(*dump);
   const auto option = [dump](const char* name, auto& word, const char* value, const char* about) {
     dump->add_option(name, word, about)->type_name(value);
   };
-  option("--base", arguments->base, "HEX",
-         "Base address of the device; 0 (the default) takes the file's own");
-  option("--memory", arguments->memory, "MEMORY", "Memory file: what the target's memory holds");
-  option("--endian", arguments->endian, "ORDER", "Byte order of the target: big (the default) or little");
   option("--open", arguments->open, "ROWS",
          "Rows to open: none, modules (the default), or all that have children");
   option("--pane", arguments->page, "PAGE", "Page to write: all (the default) or selected registers");
   option("--selection", arguments->selection, "TEXT", "The selected registers, in the file's code page");
-  option("--codepage", arguments->code_page, "N",
-         "Code page of FILE and output: 65001 (UTF-8, the default), 1252 or 932");
   dump->callback([arguments] { RunDump(*arguments); });
 }
 

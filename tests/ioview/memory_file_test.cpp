@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "ioview/message_printer.h"
 #include "ioview/program_error.h"
 
 namespace ioview {
@@ -65,11 +64,6 @@ TEST(MemoryFile, SaysWhatIsWrongWithABadLine) {
     EXPECT_EQ(error->line, row.line) << row.what;
     EXPECT_EQ(error->text, row.error) << row.what;
   }
-}
-
-TEST(MessageLine, NamesIconAndCaption) {
-  EXPECT_EQ(MessageLine({"a\nb", "", platform::MB_OK}), "message: a\\nb");
-  EXPECT_EQ(MessageLine({"\xFF", "Error", platform::MB_ICONSTOP}), "message [stop] \"Error\": \xFF");
 }
 
 }  // namespace
