@@ -1,0 +1,83 @@
+// Every script of tests/scripts, run by the built program as a user runs it.
+//
+// NAME.script prints what NAME.out says and nothing else. A script whose first line is `# exits with N` ends
+// with that status, and the first line of standard error is that of NAME.err. Each runs in a copy of the
+// folder, with the examples two folders up as here; the directory of both shows as DIR in the output.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "tests/ioview/run_program.h"
+#include "tests/support/temp_dir.h"
+
+namespace ioview::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kScripts = SOURCE_DIR "/tests/scripts";
+constexpr const char* kExits = "# exits with ";
+
+std::vector<std::string> ScriptNames() {
+  std::vector<std::string> names;
+  for (const fs::directory_entry& entry : fs::directory_iterator(kScripts)) {
+    if (entry.path().extension() == ".script") names.push_back(entry.path().stem().string());
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
+std::string FirstLine(const std::string& text) {
+  return text.substr(0, text.find('\n'));
+}
+
+void ReplaceAll(std::string& text, const std::string& from, const std::string& to) {
+  for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
+    text.replace(at, from.size(), to);
+  }
+}
+
+int ExpectedStatus(const std::string& script) {
+  const std::string first = FirstLine(script);
+  return first.starts_with(kExits) ? std::stoi(first.substr(std::string(kExits).size())) : 0;
+}
+
+class Script : public testing::TestWithParam<std::string> {};
+
+TEST_P(Script, PrintsWhatItAlwaysPrinted) {
+  const pvw::test::TempDir dir;
+  const fs::path folder = dir.Native("tests/scripts");
+  fs::create_directories(folder);
+  fs::copy(kScripts, folder, fs::copy_options::recursive);
+  fs::copy(SOURCE_DIR "/examples", dir.Native("examples"), fs::copy_options::recursive);
+
+  Outcome outcome = RunIoview({"script", GetParam() + ".script"}, {.directory = folder});
+
+  for (std::string* const text : {&outcome.out, &outcome.err}) {
+    ReplaceAll(*text, dir.Path(), "DIR");
+    ReplaceAll(*text, dir.Native().string(), "DIR");
+  }
+  EXPECT_EQ(outcome.out, ReadFile(kScripts / (GetParam() + ".out")));
+  EXPECT_EQ(outcome.status, ExpectedStatus(ReadFile(kScripts / (GetParam() + ".script")))) << outcome.err;
+  const fs::path complaint = kScripts / (GetParam() + ".err");
+  EXPECT_EQ(fs::exists(complaint), outcome.status != 0) << "what it complains of stands in a file";
+  if (!fs::exists(complaint)) return;
+  EXPECT_EQ(FirstLine(outcome.err), FirstLine(ReadFile(complaint)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Scripts, Script, testing::ValuesIn(ScriptNames()), [](const auto& name) {
+  std::string word = name.param;
+  std::ranges::replace_if(
+      word, [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
+  return word;
+});
+
+}  // namespace
+
+}  // namespace ioview::test
