@@ -6,7 +6,7 @@
 JOBS := $(shell nproc)
 EXAMPLES := examples
 
-.PHONY: run test program setup bench fuzz format tidy clean
+.PHONY: run test program setup pictures bench fuzz format tidy clean
 
 run: program
 	scripts/run-example build/release/bin/ioview $(EXAMPLES)
@@ -24,6 +24,11 @@ program: setup
 
 setup:
 	scripts/setup
+
+# The pictures of the README, from the desktop.
+pictures: program
+	cmake --build --preset release -j$(JOBS) --target make_pictures
+	scripts/pictures build/release/bin/make_pictures $(EXAMPLES) docs/pictures
 
 # The table of docs/performance.md.
 bench: program

@@ -1,0 +1,80 @@
+// The desktop over the example device, off screen, with the hands of a user: real mouse and key events.
+#pragma once
+
+#include <QtCore/qobject.h>
+#include <QtCore/qstring.h>
+#include <QtCore/qstringlist.h>
+#include <QtWidgets/qwidget.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ioview/desktop/desktop.h"
+#include "tests/support/temp_dir.h"
+
+class QAction;
+class QMenu;
+class QToolBar;
+
+namespace ioview::test {
+
+// Lets everything happen that waits to.
+void Settle();
+// Lets it happen until the condition holds; false when that takes more than some seconds.
+bool Until(const std::function<bool()>& condition);
+
+class DesktopStage : public testing::Test {
+ protected:
+  DesktopStage();
+  ~DesktopStage() override;
+
+  // Starts the program on the file in the workspace, as the command line would; the one before is gone.
+  void Start(const std::string& file = "lumen3.io", bool demo = false);
+  // The user closes the window, and the program ends.
+  void Quit();
+  Instance& Component() { return desktop->GetInstance(); }
+  MainWindow& Window() { return desktop->Window(); }
+  HostServices& Host() { return Component().host; }
+  platform::SECTreeCtrl& Grid(PaneIndex pane = PaneIndex::kAll) { return *Component().Grid(pane); }
+
+  // By names from the module down, "PORT/PDATA"; 0 when there is none.
+  platform::HTREEITEM Row(const std::string& path, PaneIndex pane = PaneIndex::kAll);
+  void OpenRow(const std::string& path) { Grid().Expand(Row(path), platform::TVE_EXPAND); }
+  std::string Value(const std::string& path) { return Grid().GetItemText(Row(path), 2); }
+  // Whether a row is drawn red in the page that shows.
+  bool ShowsRed();
+
+  // Clicks through the menus; "Debug|Step". False when an entry isn't there or is disabled.
+  bool Menu(const QString& path);
+  // The texts of an open menu, without marks and keys; disabled ones in brackets, separators as "-".
+  static QStringList Entries(const QMenu& menu);
+  // Clicks the entry of the menu that is open.
+  static bool Pick(QMenu& menu, const QString& text);
+  bool Click(QToolBar& bar, std::uint32_t command);
+  QToolBar& PaneBar();
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+  // A click into a row's name, with either button.
+  void ClickRow(const std::string& path, Qt::MouseButton button = Qt::LeftButton);
+  // What the user does in the next modal window; it must be closed by it. `Answered` says whether it came.
+  void InNextDialog(std::function<void(QWidget& dialog)> act);
+  void InNextPopup(std::function<void(QMenu& menu)> act);
+  bool Answered() const { return answers_ == 0; }
+  static QString Bare(QString text);
+
+  pvw::test::TempDir workspace;
+  std::string settings_file;
+  ComponentLibrary library;
+  std::unique_ptr<Desktop> desktop;
+
+ private:
+  void WaitFor(std::function<bool()> look);
+
+  int answers_ = 0;  // that are still to come
+  QObject here_;     // what waits goes with it
+};
+
+}  // namespace ioview::test
