@@ -17,8 +17,8 @@ namespace {
 
 std::string TempFile() {
   const char* directory = std::getenv("TMPDIR");
-  std::string name = std::string(directory == nullptr ? "/tmp" : directory) + "/pvwio-benchmark-XXXXXX";
-  const int descriptor = mkstemp(name.data());
+  std::string name = std::string(directory == nullptr ? "/tmp" : directory) + "/pvwio-benchmark-XXXXXX.io";
+  const int descriptor = mkstemps(name.data(), 3);
   if (descriptor >= 0) close(descriptor);
   return name;
 }

@@ -40,7 +40,24 @@ class RatioReporter : public benchmark::ConsoleReporter {
         Quotient("refresh, against its bare host calls", "Refresh", "BareHostCalls", version, size, "<= 5");
       }
       Growth("Open", version, "<= 1.3");
-      for (const char* name : {"Refresh", "ApplySelection", "TextDump"}) Growth(name, version, "");
+      for (const char* name : {"Refresh", "ApplySelection"}) Growth(name, version, "");
+    }
+    for (const int version : {1, 3}) {
+      for (const int size : {1000, 10000, 100000}) {
+        Quotient("stop without a change, against its bare host calls", "ViewStopUnchanged", "BareHostCalls",
+                 version, size, "<= 3");
+      }
+      for (const char* name : {"ViewOpen", "ViewExpandAll", "ViewStopChanged", "ViewStopUnchanged",
+                               "ViewSessionSave", "ViewSessionLoad", "ViewTextDump"}) {
+        Growth(name, version, "<= 1.5");
+      }
+      for (const char* name : {"ViewRepaint", "ViewScrollPage"}) {
+        const double small = Seconds(std::string(name) + " " + Args(version, 1000));
+        const double large = Seconds(std::string(name) + " " + Args(version, 100000));
+        if (small <= 0 || large <= 0) continue;
+        Print(std::string(name) + ": 100,000 registers against 1,000, v" + std::to_string(version),
+              large / small, "<= 1.5");
+      }
     }
     for (const auto& [args, lookups] : m_lookups) {
       const double open = Seconds("OpenSixtyThousandLines " + args);

@@ -1,5 +1,5 @@
-// What a user waits for: opening a definition, a stop of the target, a selection, a text dump; and what each
-// is held against.
+// What a user waits for before there is a view: opening a definition, a stop of the target, a selection; and
+// what each is held against.
 
 #include <benchmark/benchmark.h>
 
@@ -12,8 +12,6 @@
 
 #include "benchmarks/device.h"
 #include "host/host_ptr.h"
-#include "ioview/interim/page_rows.h"
-#include "ioview/interim/text_dump.h"
 #include "model/profile_text.h"
 #include "platform/base/files.h"
 #include "target/debugger_binding.h"
@@ -72,7 +70,8 @@ void ReadAndOwnIndex(benchmark::State& state) {
 
 void Open(benchmark::State& state) {
   const Definition definition(Version(state), Registers(state));
-  ioview::HostServices host;
+  ioview::UserSettings settings;
+  ioview::HostServices host(settings);
   for (auto _ : state) {
     pvw::CIODataFile file;
     std::optional<pvw::CIOData> data(std::in_place);
@@ -112,7 +111,8 @@ void ScanLookup(benchmark::State& state) {
 
 void Refresh(benchmark::State& state) {
   const Definition definition(Version(state), Registers(state));
-  ioview::HostServices host;
+  ioview::UserSettings settings;
+  ioview::HostServices host(settings);
   pvw::CIODataFile file;
   pvw::CIOData data;
   OpenAll(definition, host, file, data);
@@ -136,7 +136,8 @@ void Refresh(benchmark::State& state) {
 // bit field a format.
 void BareHostCalls(benchmark::State& state) {
   const Definition definition(Version(state), Registers(state));
-  ioview::HostServices host;
+  ioview::UserSettings settings;
+  ioview::HostServices host(settings);
   auto* memory = pvw::GetService<pvw::IQTargetMemory>(&host.root, pvw::IID_IQTargetMemory);
   auto* format = pvw::GetService<pvw::IQNumberFormat>(&host.root, pvw::IID_IQNumberFormat);
   const int fields = definition.FieldCount() / definition.Shape().registers;
@@ -168,7 +169,8 @@ void BareHostCalls(benchmark::State& state) {
 void ApplySelection(benchmark::State& state) {
   const Definition definition(Version(state), Registers(state));
   const std::string selection = definition.WholeSelection();
-  ioview::HostServices host;
+  ioview::UserSettings settings;
+  ioview::HostServices host(settings);
   for (auto _ : state) {
     pvw::CIODataFile file;
     file.Open(definition.Path(), 0);
@@ -181,33 +183,6 @@ void ApplySelection(benchmark::State& state) {
     state.PauseTiming();
     data.reset();
     state.ResumeTiming();
-  }
-  CountRegisters(state);
-}
-
-void TextDump(benchmark::State& state) {
-  const Definition definition(Version(state), Registers(state));
-  ioview::HostServices host;
-  pvw::CIODataFile file;
-  pvw::CIOData data;
-  file.Open(definition.Path(), 0);
-  data.SetHost(&host.root);
-  data.LoadModules(&file);
-  ioview::interim::PageRows page(ioview::interim::Page::kAll, file, data, nullptr);
-  page.Fill();
-  page.Open(ioview::interim::OpenRows::kAll);
-  for (auto _ : state) {
-    std::string text;
-    using ioview::interim::PageRows;
-    for (PageRows::Step step = page.FirstShown(); step.row != PageRows::kRoot; step = page.NextShown(step)) {
-      const pvw::CIORec& record = page.Record(step.row);
-      ioview::interim::AppendRow(text, {step.level,
-                                        page.HasChildren(step.row),
-                                        page.IsOpen(step.row),
-                                        {record.GetName(), record.GetAddressText(0), record.GetValueText(),
-                                         record.GetAccessText()}});
-    }
-    benchmark::DoNotOptimize(text.data());
   }
   CountRegisters(state);
 }
@@ -231,7 +206,6 @@ BENCHMARK(Open)->Apply(Sizes);
 BENCHMARK(Refresh)->Apply(Sizes);
 BENCHMARK(BareHostCalls)->Apply(Sizes);
 BENCHMARK(ApplySelection)->Apply(Sizes);
-BENCHMARK(TextDump)->Apply(Sizes);
 BENCHMARK(Open)->Name("OpenSixtyThousandLines")->Apply(SixtyThousandLines);
 BENCHMARK(ScanLookup)->Apply(SixtyThousandLines);
 

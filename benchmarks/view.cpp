@@ -1,0 +1,30 @@
+#include "benchmarks/view.h"
+
+namespace bench {
+
+View::View(const Definition& definition) : m_definition(definition) {
+  const std::string& path = definition.Path();
+  m_instance.host.device.SetDefaultIOPath(path.substr(0, path.size() - 3));
+  m_instance.host.workspace = {"demo", "demo", "Debug", "c:\\"};
+  m_instance.Start(true);
+}
+
+void View::Open() {
+  ioview::Instance::RunCommand(ioview::kOpenViewCommand, m_instance.Frame());
+}
+
+void View::ExpandAll() {
+  platform::SECTreeCtrl& grid = Grid();
+  for (std::size_t row = 0; row < grid.GetRowCount(); ++row) {
+    grid.Expand(grid.GetItemAtRow(row), platform::TVE_EXPAND);
+  }
+}
+
+void View::ChangeEverything() {
+  ++m_value;
+  const std::vector<std::uint8_t> bytes(4 * static_cast<std::size_t>(m_definition.Shape().registers),
+                                        m_value);
+  m_instance.host.target.Poke(0xFF0000, bytes);
+}
+
+}  // namespace bench

@@ -1,0 +1,171 @@
+// What a user waits for in the open view. All rows are open unless the name says otherwise.
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+
+#include "benchmarks/view.h"
+#include "platform/headless/recording_dc.h"
+
+namespace bench {
+
+namespace {
+
+int Registers(const benchmark::State& state) {
+  return static_cast<int>(state.range(1));
+}
+
+void CountRegisters(benchmark::State& state) {
+  state.counters["per_register"] =
+      benchmark::Counter(static_cast<double>(Registers(state)),
+                         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+Definition DefinitionOf(const benchmark::State& state) {
+  return Definition(static_cast<int>(state.range(0)), Registers(state));
+}
+
+// Opens what is closed, and leaves a view with rows for every record.
+void ViewOpen(benchmark::State& state) {
+  const Definition definition = DefinitionOf(state);
+  View view(definition);
+  for (auto _ : state) {
+    view.Open();
+    view.ExpandAll();
+    state.PauseTiming();
+    view.Host().Disconnect();
+    view.Host().Start(true);
+    state.ResumeTiming();
+  }
+  CountRegisters(state);
+}
+
+// The records are known, the rows are there, all closed.
+void ViewExpandAll(benchmark::State& state) {
+  const Definition definition = DefinitionOf(state);
+  View view(definition);
+  view.Open();
+  view.ExpandAll();
+  for (auto _ : state) {
+    state.PauseTiming();
+    platform::SECTreeCtrl& grid = view.Grid();
+    for (std::size_t row = grid.GetRowCount(); row-- > 0;) {
+      grid.Expand(grid.GetItemAtRow(row), platform::TVE_COLLAPSE);
+    }
+    state.ResumeTiming();
+    view.ExpandAll();
+  }
+  CountRegisters(state);
+}
+
+void ViewStopChanged(benchmark::State& state) {
+  const Definition definition = DefinitionOf(state);
+  View view(definition);
+  view.Open();
+  view.ExpandAll();
+  for (auto _ : state) {
+    state.PauseTiming();
+    view.ChangeEverything();
+    state.ResumeTiming();
+    view.Host().Step(1, 0, 0);
+  }
+  CountRegisters(state);
+}
+
+void ViewStopUnchanged(benchmark::State& state) {
+  const Definition definition = DefinitionOf(state);
+  View view(definition);
+  view.Open();
+  view.ExpandAll();
+  view.ChangeEverything();
+  view.Host().Step(1, 0, 0);
+  for (auto _ : state) view.Host().Step(1, 0, 0);
+  CountRegisters(state);
+}
+
+// Every row is red: each row that is drawn is looked up among the marks.
+void ViewRepaint(benchmark::State& state) {
+  const Definition definition = DefinitionOf(state);
+  View view(definition);
+  view.Open();
+  view.ExpandAll();
+  view.ChangeEverything();
+  view.Host().Step(1, 0, 0);
+  for (auto _ : state) {
+    platform::RecordingDC dc(view.Grid().GetClientRect());
+    view.Grid().Paint(dc, view.Grid().GetClientRect());
+    benchmark::DoNotOptimize(dc.GetLines().size());
+  }
+}
+
+void ViewScrollPage(benchmark::State& state) {
+  const Definition definition = DefinitionOf(state);
+  View view(definition);
+  view.Open();
+  view.ExpandAll();
+  for (auto _ : state) {
+    platform::SECTreeCtrl& grid = view.Grid();
+    const int next = grid.GetScrollPos(true) + grid.GetPageRows();
+    grid.SetScrollPos(true, next < grid.GetScrollMax(true) ? next : 0);
+    platform::RecordingDC dc(grid.GetClientRect());
+    grid.Paint(dc, grid.GetClientRect());
+    benchmark::DoNotOptimize(dc.GetLines().size());
+  }
+}
+
+// All of the registers are selected, too.
+void ViewSessionSave(benchmark::State& state) {
+  const Definition definition = DefinitionOf(state);
+  View view(definition);
+  view.Open();
+  view.ExpandAll();
+  for (auto _ : state) view.Host().SaveSession();
+  CountRegisters(state);
+}
+
+void ViewSessionLoad(benchmark::State& state) {
+  const Definition definition = DefinitionOf(state);
+  View view(definition);
+  view.Open();
+  view.ExpandAll();
+  view.Host().SaveSession();
+  for (auto _ : state) {
+    state.PauseTiming();
+    view.Host().Disconnect();
+    view.Host().Connect();
+    view.Host().ConnectTarget();
+    state.ResumeTiming();
+    view.Host().LoadSession();
+  }
+  CountRegisters(state);
+}
+
+void ViewTextDump(benchmark::State& state) {
+  const Definition definition = DefinitionOf(state);
+  View view(definition);
+  view.Open();
+  view.ExpandAll();
+  for (auto _ : state) benchmark::DoNotOptimize(view.Grid().GetDumpText().size());
+  CountRegisters(state);
+}
+
+void Sizes(benchmark::internal::Benchmark* run) {
+  run->ArgNames({"version", "registers"})->Unit(benchmark::kMillisecond)->MinWarmUpTime(0.2)->MinTime(0.4);
+  for (const int version : {1, 3}) {
+    for (const int registers : {1000, 10000, 100000}) run->Args({version, registers});
+  }
+}
+
+BENCHMARK(ViewOpen)->Apply(Sizes);
+BENCHMARK(ViewExpandAll)->Apply(Sizes);
+BENCHMARK(ViewStopChanged)->Apply(Sizes);
+BENCHMARK(ViewStopUnchanged)->Apply(Sizes);
+BENCHMARK(ViewRepaint)->Apply(Sizes);
+BENCHMARK(ViewScrollPage)->Apply(Sizes);
+BENCHMARK(ViewSessionSave)->Apply(Sizes);
+BENCHMARK(ViewSessionLoad)->Apply(Sizes);
+BENCHMARK(ViewTextDump)->Apply(Sizes);
+
+}  // namespace
+
+}  // namespace bench
