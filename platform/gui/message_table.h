@@ -5,7 +5,6 @@
 //       OnCommand<&CPane::OnRefresh>(32817),
 //       OnUpdate<&CPane::OnUpdateRefresh>(32817),
 //       OnNotify<&CPane::OnItemExpanding>(200, TVN_ITEMEXPANDING),
-//       OnControl<&CPane::OnEditChange>(9001, EN_CHANGE),
 //       OnReflect<&CPane::OnUpdate>(EN_UPDATE),
 //   }};
 //
@@ -47,9 +46,9 @@ struct NMHDR {
 };
 
 struct MessageRow {
-  enum class Kind { Message, Command, Update, Notify, Control, Reflect };
+  enum class Kind { Message, Command, Update, Notify, Reflect };
   Kind kind;
-  UINT code;  // message, notification code, control code; 0 for commands
+  UINT code;  // message or notification code; 0 for commands
   UINT id;    // command or control id; 0 for messages and reflected codes
   LRESULT (*call)(CWnd& window, void* argument);
 };
@@ -122,11 +121,6 @@ constexpr MessageRow OnUpdate(UINT id) {
 template <auto handler>
 constexpr MessageRow OnNotify(UINT control, UINT code) {
   return {MessageRow::Kind::Notify, code, control, &message_table::Call<handler, NMHDR>};
-}
-// void Handler(), for a code of WM_COMMAND.
-template <auto handler>
-constexpr MessageRow OnControl(UINT control, UINT code) {
-  return {MessageRow::Kind::Control, code, control, &message_table::CallPlain<handler>};
 }
 // void Handler(), for a code that this control itself would send its parent; the parent then doesn't get it.
 template <auto handler>

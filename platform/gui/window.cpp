@@ -196,14 +196,8 @@ void CWnd::NotifyParentCommand(UINT code) {
 LRESULT CWnd::OnCommandMessage(const MSG& msg) {
   const UINT id = msg.wParam & 0xFFFF;
   const UINT code = msg.wParam >> 16 & 0xFFFF;
-  if (msg.lParam != 0) {
-    if (const MessageRow* row = GetMessageTable().Find(MessageRow::Kind::Control, code, id)) {
-      row->call(*this, nullptr);
-      return 1;
-    }
-    // A click on a button is the command of its id.
-    if (code != BN_CLICKED) return 0;
-  }
+  // Of what a control tells, a click on a button is the command of its id.
+  if (msg.lParam != 0 && code != BN_CLICKED) return 0;
   return RouteCommand(id) ? 1 : 0;
 }
 
