@@ -57,12 +57,19 @@ CTreeGridCtrl::CTreeGridCtrl() {
 // Changed rows -------------------------------------------------------------------------------------------
 
 void CTreeGridCtrl::MarkChanged(HTREEITEM item) {
-  if (m_changedItems.insert(item).second) Invalidate();
+  if (!HasItem(item) || IsChanged(item)) return;
+  m_changedItems.Set(item, m_changeGeneration);
+  m_hasChanged = true;
+  Invalidate();
 }
 
 void CTreeGridCtrl::ClearChanged() {
-  if (m_changedItems.empty()) return;
-  m_changedItems.clear();
+  if (!m_hasChanged) return;
+  m_hasChanged = false;
+  if (++m_changeGeneration == 0) {
+    m_changedItems.Clear();
+    m_changeGeneration = 1;
+  }
   Invalidate();
 }
 

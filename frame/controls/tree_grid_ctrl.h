@@ -8,10 +8,10 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "component/services/session_store.h"
+#include "frame/controls/row_table.h"
 #include "frame/controls/tree_list_edit.h"
 #include "frame/controls/tree_text_dump.h"
 #include "host/workspace_services.h"
@@ -28,7 +28,10 @@ class CTreeGridCtrl : public platform::SECTreeCtrl {
   // handle never comes back; the owner clears all when it deletes all.
   void MarkChanged(platform::HTREEITEM item);
   void ClearChanged();
-  bool IsChanged(platform::HTREEITEM item) const { return m_changedItems.contains(item); }
+  bool IsChanged(platform::HTREEITEM item) const {
+    const std::uint32_t* const generation = m_changedItems.Find(item);
+    return generation != nullptr && *generation == m_changeGeneration;
+  }
 
   // State. Results are always 0; what a store or the host refuses is lost.
   // Session: widths under `key` + "ColWidth" + column, when there is more than one column; then the open rows
@@ -82,7 +85,9 @@ class CTreeGridCtrl : public platform::SECTreeCtrl {
 
   std::string m_headerLine;  // of the last dump to a file that had one
   std::string m_ruleLine;
-  std::unordered_set<platform::HTREEITEM> m_changedItems;
+  CRowTable<std::uint32_t> m_changedItems;  // the generation of marks that a row was marked in last
+  std::uint32_t m_changeGeneration = 1;
+  bool m_hasChanged = false;
   std::vector<std::uint32_t> m_hiddenWidths;  // by column; 0 for those behind its end
   std::array<std::size_t, kMostColumns> m_dumpWidths{};
 };

@@ -11,13 +11,13 @@ void TreeRows::Clear() {
 }
 
 TreeRows::Row TreeRows::Append(Row parent) {
-  constexpr std::uint64_t kMostRows = std::uint64_t{1} << kNumberBits;
-  constexpr std::uint64_t kLastHandle = kTreeRoot >> kNumberBits;
+  constexpr std::uint64_t kMostRows = std::uint64_t{1} << kRowNumberBits;
+  constexpr std::uint64_t kLastHandle = kTreeRoot >> kRowNumberBits;
   if (m_rows.size() >= kMostRows || m_count + 1 >= kLastHandle) return kNone;
   const Row row = m_order.Append(parent);
   if (row >= m_rows.size()) m_rows.resize(row + 1);
   TreeRow& added = m_rows[row];
-  added.handle = ++m_count << kNumberBits | row;
+  added.handle = ++m_count << kRowNumberBits | row;
   added.parent = parent;
   added.previous = m_rows[parent].last_child;
   (added.previous != kRoot ? m_rows[added.previous].next : m_rows[parent].first_child) = row;
@@ -38,7 +38,7 @@ void TreeRows::Erase(Row row) {
 
 TreeRows::Row TreeRows::Find(HTREEITEM handle) const {
   if (handle == kTreeRoot) return kRoot;
-  const auto row = static_cast<Row>(handle & ((std::uint64_t{1} << kNumberBits) - 1));
+  const Row row = RowNumber(handle);
   return handle != 0 && row < m_rows.size() && m_rows[row].handle == handle ? row : kNone;
 }
 

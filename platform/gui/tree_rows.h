@@ -58,8 +58,6 @@ class TreeRows {
   const RowSequence& Order() const { return m_order; }
 
  private:
-  static constexpr unsigned kNumberBits = 28;
-
   RowSequence m_order;
   std::vector<TreeRow> m_rows;  // the root's first
   std::uint64_t m_count = 0;    // of rows made so far

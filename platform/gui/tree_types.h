@@ -13,6 +13,11 @@ namespace platform {
 // the top-level rows.
 using HTREEITEM = std::uint64_t;
 inline constexpr HTREEITEM kTreeRoot = ~HTREEITEM{0};
+// A small number that no other row of the tree has at the time; it is used again once the row is gone.
+inline constexpr unsigned kRowNumberBits = 28;
+constexpr std::uint32_t RowNumber(HTREEITEM item) {
+  return static_cast<std::uint32_t>(item & ((HTREEITEM{1} << kRowNumberBits) - 1));
+}
 
 // Parts of a row that a point can hit.
 inline constexpr UINT TVHT_NOWHERE = 0x0001;
