@@ -205,8 +205,10 @@ Status CPvwIODataCtrl::OnEvent(const QEventRecord* event) {
 
 void CPvwIODataCtrl::RefreshView() {
   if (view == nullptr || !view->IsViewOpen() || view->IsRefreshLocked()) return;
+  const Watch<CPvwIODataCommandSink> watch(view.get());
   // A failed read is silent: the panes show what the records hold.
   static_cast<void>(ioData.ReadValues(debugger));
+  if (!watch.Stands()) return;
   view->SetTargetUpdate(true);
   view->UpdatePanes();
   view->SetTargetUpdate(false);

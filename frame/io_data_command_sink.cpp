@@ -13,6 +13,7 @@
 #include "resources/ids.h"
 #include "support/path_text.h"
 #include "support/placeholder_expander.h"
+#include "view/host_dialog.h"
 
 namespace pvw {
 
@@ -90,6 +91,8 @@ CPvwIODataCommandSink::CPvwIODataCommandSink(CIODataFile* file, CIOData* data, I
 }
 
 CPvwIODataCommandSink::~CPvwIODataCommandSink() {
+  Watch<CPvwIODataCommandSink>::OnGone(this);
+  EndHostDialogs(m_pHost);
   DestroySink();
   RemoveClients();
 }
@@ -173,7 +176,9 @@ void CPvwIODataCommandSink::OnUpdateOpenIOWindow(platform::CCmdUI& ui) {
 
 void CPvwIODataCommandSink::OnOpenIOWindow() {
   m_bSessionDirty = true;
+  const Watch<CPvwIODataCommandSink> watch(this);
   const bool file_found = m_pIOFile->IsOpen() || OpenFile();
+  if (!watch.Stands()) return;
   if (m_pUiRegistrar != nullptr) {
     const std::string title = platform::LoadString(IDS_VIEW_TITLE);
     HWND window = 0;
@@ -189,7 +194,7 @@ void CPvwIODataCommandSink::OnOpenIOWindow() {
     }
     if (window != 0) MakePanes(window, file_found);
   }
-  UpdateWindow();
+  if (watch.Stands()) UpdateWindow();
 }
 
 bool CPvwIODataCommandSink::OpenFile() {
@@ -206,11 +211,14 @@ bool CPvwIODataCommandSink::OpenFile() {
   std::uint32_t base = 0;
   if (m_pDeviceInfo != nullptr && Failed(m_pDeviceInfo->GetBaseAddress(&base))) base = 0;
   m_pIOFile->Open(path, base);
-  m_pIOData->SetHost(m_pHost);
-  m_pIOData->ParseSelection(m_selectionText);
-  // A fault of the file has been told to the user, and what could be read is shown.
-  static_cast<void>(m_pIOData->LoadModules(m_pIOFile));
-  m_pIOData->ApplySelection();
+  CIOData& data = *m_pIOData;
+  data.SetHost(m_pHost);
+  data.ParseSelection(m_selectionText);
+  // A fault of the file is told to the user, and what could be read is shown. The host may disconnect
+  // meanwhile.
+  const Watch<CIOData> modules(&data);
+  static_cast<void>(data.LoadModules(m_pIOFile));
+  if (modules.Stands()) data.ApplySelection();
   return found;
 }
 
@@ -221,7 +229,8 @@ void CPvwIODataCommandSink::MakePanes(HWND window, bool file_found) {
     // Another session's window, or one that the host has destroyed with the panes' windows in it.
     DestroyPanes();
   }
-  for (std::size_t i = 0; i < m_paneTitles.size(); ++i) {
+  const Watch<CPvwIODataCommandSink> watch(this);
+  for (std::size_t i = 0; watch.Stands() && i < m_paneTitles.size(); ++i) {
     if (!AddPane(window, i, file_found)) return;
   }
 }
@@ -230,7 +239,11 @@ bool CPvwIODataCommandSink::AddPane(HWND window, std::size_t index, bool file_fo
   auto made = std::make_unique<CPvwIOInstanceCtrl>(m_pIOFile, m_pIOData, index, m_pHost, m_pUiRegistrar, 0);
   CPvwIOInstanceCtrl& pane = *made;
   pane.SetFrame(this);
-  if (!pane.CreatePane(window, GetHandle())) {
+  // Rows tell the user of a faulty file, and the host may disconnect meanwhile.
+  const Watch<CPvwIODataCommandSink> watch(this);
+  const bool created = pane.CreatePane(window, GetHandle());
+  if (!watch.Stands()) return false;
+  if (!created) {
     pane.ReleaseHostUi();
     return false;
   }
@@ -268,9 +281,10 @@ platform::LRESULT CPvwIODataCommandSink::HidePane(HWND pane_window, platform::LP
 
 Status CPvwIODataCommandSink::UpdateWindow() {
   if (m_bRefreshLocked) return S_OK;
+  const Watch<CPvwIODataCommandSink> watch(this);
   // A failed read is silent: the panes show what the records hold.
   static_cast<void>(m_pIOData->ReadValues(debugger));
-  UpdatePanes();
+  if (watch.Stands()) UpdatePanes();
   return S_OK;
 }
 
@@ -284,11 +298,11 @@ void CPvwIODataCommandSink::ToggleRefreshLock() {
   }
   m_textFg = m_savedTextFg;
   SetItemColours(item.Get(), m_textFg, m_textBk);
-  const HWND self = GetHandle();
+  const Watch<CPvwIODataCommandSink> watch(this);
   for (std::size_t i = 0; i < m_paneByIndex.size(); ++i) {
     if (m_paneByIndex[i] != nullptr) m_paneByIndex[i]->OnLockEnded();
     // Rows that open show dialogs, and the host may close the view or disconnect meanwhile.
-    if (self != 0 && !platform::IsWindow(self)) return;
+    if (!watch.Stands()) return;
   }
   UpdateWindow();
 }

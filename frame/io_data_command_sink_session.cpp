@@ -54,13 +54,17 @@ Status CPvwIODataCommandSink::LoadSessionData(BSTR workspace, BSTR project, BSTR
   std::int32_t views = 0;
   store.ReadInt(kViewsKey, 0, &views);
 
+  // Rows that are made or opened tell the user of a faulty file, and the host may disconnect meanwhile.
+  const Watch<CPvwIODataCommandSink> watch(this);
   m_bRestoring = true;
   store.ReadString(kSelectionKey, "", m_selectionText);
   // One open makes all panes, so that a count beyond the panes that are there asks for one open, no more.
   if (m_panes.empty() && views > 0) OnOpenIOWindow();
+  if (!watch.Stands()) return S_OK;
   m_bRestoring = false;
 
   LoadPanes(store);
+  if (!watch.Stands()) return S_OK;
   m_bSessionDirty = false;
   m_sessionName = platform::BstrText(name);
   return S_OK;
@@ -88,9 +92,11 @@ void CPvwIODataCommandSink::ReadSaveFileKeys(CSessionStore& store) {
 // The second pane's rows neither open nor close by it: it gets widths and positions. Without a state of its
 // own it takes the first pane's.
 void CPvwIODataCommandSink::LoadPanes(CSessionStore& store) {
+  const Watch<CPvwIODataCommandSink> watch(this);
   const bool user_lock = m_bRefreshLocked;
   if (!m_panes.empty()) {
     if (m_paneByIndex[0] != nullptr) m_paneByIndex[0]->LoadState(store, PaneKey(0));
+    if (!watch.Stands()) return;
     std::string width;
     store.ReadString(PaneKey(1) + "ColWidth0", "", width);
     m_bRefreshLocked = true;

@@ -75,8 +75,9 @@ platform::Status CIOData::LoadModules(CIODataFile* file) {
     loaded.push_back(module.get());
     m_modules.push_back(std::move(module));
   }
-  const bool ok =
-      std::ranges::all_of(loaded, [&](CIORecModule* module) { return module->LoadDependency(file); });
+  const Watch<CIOData> watch(this);
+  const bool ok = std::ranges::all_of(
+      loaded, [&](CIORecModule* module) { return module->LoadDependency(file) && watch.Stands(); });
   return ok ? platform::S_OK : platform::E_FAIL;
 }
 
@@ -85,9 +86,11 @@ CIORec* CIOData::GetModule(std::size_t index) const {
 }
 
 platform::Status CIOData::ReadValues(IQDebugger* target) {
-  for (const auto& module : m_modules) {
-    if (!module->IsExpanded()) continue;
-    const platform::Status status = module->ReadValue(target);
+  const Watch<CIOData> watch(this);
+  for (std::size_t i = 0; i < m_modules.size(); ++i) {
+    if (!m_modules[i]->IsExpanded()) continue;
+    const platform::Status status = m_modules[i]->ReadValue(target);
+    if (!watch.Stands()) return platform::E_FAIL;
     if (platform::Failed(status)) return status;
   }
   return platform::S_OK;
@@ -180,7 +183,12 @@ void CIOData::CollectSelection() {
   DeleteModules();
 }
 
+CIOData::~CIOData() {
+  Watch<CIOData>::OnGone(this);
+}
+
 void CIOData::DeleteModules() {
+  Watch<CIOData>::OnGone(this);
   m_modules.clear();
 }
 

@@ -6,6 +6,9 @@
 //   first load   ParseSelection, LoadModules, ApplySelection
 //   reload       CollectSelection, DeleteModules, closing and opening the file, LoadModules, ApplySelection
 //   each open    CIORec::LoadChildren, then ApplyChildSelection
+//
+// A load and a read let the host go on: they fail when the modules are deleted meanwhile, which a
+// Watch<CIOData> tells.
 #pragma once
 
 #include <cstddef>
@@ -26,7 +29,7 @@ class CIOData {
   CIOData() = default;
   CIOData(const CIOData&) = delete;
   CIOData& operator=(const CIOData&) = delete;
-  virtual ~CIOData() = default;
+  virtual ~CIOData();
 
   // The host of the records that are made from now on; not owned.
   void SetHost(IQComponentHost* host) { m_pHost = host; }

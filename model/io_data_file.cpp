@@ -13,16 +13,18 @@
 
 namespace pvw {
 
-CIODataFile::Reading::Reading(CIODataFile& file) : m_file(file) {
+CIODataFile::Reading::Reading(CIODataFile& file) : m_file(file), m_watch(&file) {
   ++m_file.m_readings;
   m_file.TextForLookup();
 }
 
 CIODataFile::Reading::~Reading() {
-  if (--m_file.m_readings == 0) m_file.m_bHeld = false;
+  if (m_watch.Stands() && --m_file.m_readings == 0) m_file.m_bHeld = false;
 }
 
-CIODataFile::~CIODataFile() = default;
+CIODataFile::~CIODataFile() {
+  Watch<CIODataFile>::OnGone(this);
+}
 
 void CIODataFile::Open(std::string_view path, std::uint32_t baseAddress) {
   Close();

@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "model/profile_text.h"
+#include "model/watch.h"
 #include "platform/base/files.h"
 
 namespace pvw {
@@ -21,7 +22,8 @@ namespace pvw {
 class CIODataFile {
  public:
   // While one lives, the file is held against its state on disk once, at its start, and every lookup answers
-  // from that state. For operations that make many lookups. They nest; the outermost counts.
+  // from that state. For operations that make many lookups. They nest; the outermost counts. The file may go
+  // first.
   class Reading {
    public:
     explicit Reading(CIODataFile& file);
@@ -31,6 +33,7 @@ class CIODataFile {
 
    private:
     CIODataFile& m_file;
+    const Watch<CIODataFile> m_watch;
   };
 
   CIODataFile() = default;

@@ -13,28 +13,6 @@
 
 namespace pvw {
 
-// Dialogs can nest, so the watches of the records that they are open on form a list.
-class CIORec::Watch {
- public:
-  explicit Watch(CIORec* record) : m_pRecord(record), m_pNext(std::exchange(s_pFirst, this)) {}
-  Watch(const Watch&) = delete;
-  Watch& operator=(const Watch&) = delete;
-  ~Watch() { s_pFirst = m_pNext; }
-
-  bool IsInTree() const { return m_pRecord != nullptr; }
-
-  static void OnGone(const CIORec* record) {
-    for (Watch* watch = s_pFirst; watch != nullptr; watch = watch->m_pNext) {
-      if (watch->m_pRecord == record) watch->m_pRecord = nullptr;
-    }
-  }
-
- private:
-  static inline Watch* s_pFirst = nullptr;
-  CIORec* m_pRecord;
-  Watch* m_pNext;
-};
-
 CIORec::CIORec(std::string name, IQComponentHost* host)
     : m_pNumberFormat(pvw::GetService<IQNumberFormat>(host, IID_IQNumberFormat)),
       m_name(std::move(name)),
@@ -54,7 +32,7 @@ CIORec::CIORec(std::string name, CIORec* parent)
 }
 
 CIORec::~CIORec() {
-  Watch::OnGone(this);
+  Watch<CIORec>::OnGone(this);
   s_bytes -= m_chargedBytes;
   // Records that are destroyed here have given their children up first, so that no depth of them nests.
   for (Records pending = std::move(m_children); !pending.empty();) {
@@ -99,15 +77,21 @@ bool CIORec::LoadChildren(CIODataFile* /*file*/, IQDebugger* /*target*/) {
 }
 
 platform::Status CIORec::ReadValue(IQDebugger* target) {
-  for (const auto& child : m_children) {
-    if (!child->m_bMissing) child->ReadValue(target);
+  const Watch<CIORec> watch(this);
+  for (std::size_t i = 0; i < m_children.size(); ++i) {
+    if (m_children[i]->m_bMissing) continue;
+    m_children[i]->ReadValue(target);
+    if (!watch.Stands()) return platform::E_FAIL;
   }
   return platform::S_OK;
 }
 
 platform::Status CIORec::WriteValue(IQDebugger* target) {
-  for (const auto& child : m_children) {
-    if (!child->m_bMissing) child->WriteValue(target);
+  const Watch<CIORec> watch(this);
+  for (std::size_t i = 0; i < m_children.size(); ++i) {
+    if (m_children[i]->m_bMissing) continue;
+    m_children[i]->WriteValue(target);
+    if (!watch.Stands()) return platform::E_FAIL;
   }
   return platform::S_OK;
 }
@@ -150,7 +134,7 @@ void CIORec::MarkMissing() {
 }
 
 void CIORec::LeaveForSelection() {
-  Watch::OnGone(this);
+  Watch<CIORec>::OnGone(this);
   m_bChildrenKnown = true;
   m_expandCount = 0;
   m_bExpanded = false;
@@ -198,8 +182,8 @@ bool CIORec::RunEditDialog(IQNumberFormat* numberFormat, IQComponentHost* host, 
   caption = FormatMessageText(std::move(caption), GetName());
 
   // The dialog's message loop lets the host go on, which may load another definition meanwhile.
-  const Watch watch(this);
-  return RunEditValueHook(numberFormat, host, value, bits, caption) && watch.IsInTree();
+  const Watch<CIORec> watch(this);
+  return RunEditValueHook(numberFormat, host, value, bits, caption) && watch.Stands();
 }
 
 }  // namespace pvw

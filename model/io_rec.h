@@ -4,6 +4,10 @@
 // kind. A record owns its children. Nesting can be deep where a selection text says so: nothing here walks
 // down or up by recursion, but for reads and writes, which stop at missing records, and Relocate, which stops
 // at registers. User-interface thread only.
+//
+// Reads, writes, dialogs and messages let the host go on, and the record may leave the tree or be destroyed
+// meanwhile. Each operation that has one in it fails then, and touches nothing of the record any more;
+// Watch<CIORec> tells a caller.
 #pragma once
 
 #include <cstddef>
@@ -19,6 +23,7 @@
 #include "host/format_services.h"
 #include "model/io_data_file.h"
 #include "model/io_register_id.h"
+#include "model/watch.h"
 
 namespace pvw {
 
@@ -94,8 +99,8 @@ class CIORec {
   // The record and all below it.
   void MarkMissing();
 
-  // Leaves the tree to be a record of the selection: its children are final, no pane has it open, and a
-  // dialog that is open on it has lost its record.
+  // Leaves the tree to be a record of the selection: its children are final, no pane has it open, and who is
+  // in the midst of it has lost it.
   void LeaveForSelection();
 
   const Records& GetChildren() const { return m_children; }
@@ -114,13 +119,15 @@ class CIORec {
   virtual bool IsConditionMet() const { return true; }
   // The record has come under another parent.
   virtual void OnAdopted() {}
+  // The top-level record above this one, or itself.
+  const CIORec* GetTop() const { return m_pTop; }
 
   // Hexadecimal digits by the host: see model/number_text.h.
   std::string GetNumberText(std::uint64_t value, std::uint32_t bits) const;
   // Tells the user the greatest value that there is room for.
   void ShowTooBig(std::uint64_t limit) const;
   // Runs the edit dialog for this record, whose register is at `addressText`. False when it is cancelled, and
-  // when the record has left the tree by its end: it may then be destroyed, so touch nothing of it any more.
+  // when the record has left the tree by its end.
   [[nodiscard]] bool RunEditDialog(IQNumberFormat* numberFormat, IQComponentHost* host, std::uint64_t& value,
                                    std::uint32_t bits, const std::string& addressText);
 
@@ -140,14 +147,11 @@ class CIORec {
   CIORec* m_pParent;
 
  private:
-  // Tells whether a record has left the tree while a dialog was open on it.
-  class Watch;
-
   // Calls `visit` with this record and each one below it, parents first.
   template <typename Visit>
   void ForAll(Visit visit);
 
-  CIORec* m_pTop;  // the top-level record above this one, or itself
+  CIORec* m_pTop;
   std::size_t m_chargedBytes = 0;
 
   static inline std::size_t s_bytes = 0;

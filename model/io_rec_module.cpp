@@ -1,5 +1,7 @@
 #include "model/io_rec_module.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <new>
 #include <tuple>
 #include <utility>
@@ -10,16 +12,21 @@ namespace pvw {
 
 bool CIORecModule::LoadChildren(CIODataFile* file, IQDebugger* target) {
   if (TestLoaded()) return true;
+  if (m_bLoading) return false;
   const CIODataFile::Reading reading(*file);
-  Records earlier = TakeChildren();
+  const Watch<CIORec> watch(this);
+  std::erase_if(m_children, [](const auto& record) { return !record->IsMissing(); });
+  m_bLoading = true;
   const bool loaded = LoadRegisters(file, target);
-  for (auto& record : earlier) {
-    if (record->IsMissing()) AddChild(std::move(record));
-  }
+  if (!watch.Stands()) return false;
+  m_bLoading = false;
+  std::stable_partition(m_children.begin(), m_children.end(),
+                        [](const auto& record) { return !record->IsMissing(); });
   return loaded;
 }
 
 bool CIORecModule::LoadRegisters(CIODataFile* file, IQDebugger* target) {
+  const Watch<CIORec> watch(this);
   bool loaded = true;
   for (std::uint32_t n = 0; HasRoom(); ++n) {
     std::string name = file->GetValue(m_name, NumberedKey(Keys().reg, n));
@@ -29,19 +36,21 @@ bool CIORecModule::LoadRegisters(CIODataFile* file, IQDebugger* target) {
     }
     if (auto reg = MakeRegister(std::move(name))) AddChild(std::move(reg));
   }
-  for (const auto& child : m_children) {
-    if (!ParseRegister(static_cast<CIORecReg&>(*child), file)) {
-      loaded = false;
-      break;
-    }
-    std::ignore = child->ReadValue(target);
+  for (std::size_t i = 0; watch.Stands() && loaded && i < m_children.size(); ++i) {
+    if (m_children[i]->IsMissing()) continue;
+    auto& reg = static_cast<CIORecReg&>(*m_children[i]);
+    loaded = ParseRegister(reg, file);
+    if (loaded && watch.Stands()) std::ignore = reg.ReadValue(target);
   }
+  if (!watch.Stands()) return false;
   m_bLoaded = true;
   return loaded;
 }
 
 platform::Status CIORecModule::ReadValue(IQDebugger* target) {
+  const Watch<CIORec> watch(this);
   if (!m_bMissing && m_pDepRegister != nullptr) std::ignore = m_pDepRegister->Read(target);
+  if (!watch.Stands()) return platform::E_FAIL;
   return CIORec::ReadValue(target);
 }
 

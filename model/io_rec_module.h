@@ -20,10 +20,10 @@ class CIORecModule : public CIORec {
 
   bool HasChildren() const override { return !m_bLoaded || !m_children.empty(); }
   // An attempt after one that failed makes the registers anew. Selection records that the module has adopted
-  // stay, behind the registers of the file.
+  // stay, behind the registers of the file. In the midst of an attempt another one fails.
   bool LoadChildren(CIODataFile* file, IQDebugger* target) override;
-  // Reads the dependency's register, whose failure leaves the last value in force, and the registers. Always
-  // gives 0: one register that fails stops nothing.
+  // Reads the dependency's register, whose failure leaves the last value in force, and the registers. Gives 0
+  // while the module is there: one register that fails stops nothing.
   platform::Status ReadValue(IQDebugger* target) override;
   const std::string& GetName() const override { return m_name; }
 
@@ -41,8 +41,8 @@ class CIORecModule : public CIORec {
  protected:
   // Whether there is nothing to load now.
   virtual bool TestLoaded() { return m_bLoaded; }
-  // Makes, parses and reads the registers. Here they are those of the list reg0, reg1, ..., all of them made
-  // before the first is parsed.
+  // Makes, parses and reads the registers; other children than missing ones there are none. Here they are
+  // those of the list reg0, reg1, ..., all of them made before the first is parsed.
   virtual bool LoadRegisters(CIODataFile* file, IQDebugger* target);
   // What a module that lists no registers loads to.
   virtual bool OnNoRegisters() const { return true; }
@@ -54,6 +54,7 @@ class CIORecModule : public CIORec {
   bool IsConditionMet() const override;
 
   bool m_bLoaded = false;
+  bool m_bLoading = false;
   std::uint32_t m_address = 0;  // added to those of its registers
   bool m_bAbsolute = false;     // kept; changes nothing
 

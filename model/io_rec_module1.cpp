@@ -16,6 +16,7 @@ bool CIORecModule1::LoadRegisters(CIODataFile* file, IQDebugger* target) {
   const KeyList keys = KeyList::All(*file, m_name);
   std::string_view rest = keys.Text();
   if (rest.empty()) return true;
+  const Watch<CIORec> watch(this);
   while (!rest.empty()) {
     auto made = MakeRegister(std::string(KeyList::Next(rest)));
     if (made == nullptr) return true;
@@ -23,6 +24,7 @@ bool CIORecModule1::LoadRegisters(CIODataFile* file, IQDebugger* target) {
     AddChild(std::move(made));
     std::ignore = ParseRegister(reg, file);
     std::ignore = reg.ReadValue(target);
+    if (!watch.Stands()) return false;
   }
   m_bLoaded = true;
   return true;

@@ -19,7 +19,9 @@ void CIORecReg::Relocate(std::uint32_t delta) {
 
 bool CIORecReg::SetValue(IQDebugger* target, std::uint64_t value) {
   if (!IsOnTarget()) return false;
+  const Watch<CIORec> watch(this);
   std::ignore = m_register.Read(target);
+  if (!watch.Stands()) return false;
   const std::uint32_t bits = m_register.GetSize() * 8;
   if (value >> bits != 0) {
     ShowTooBig((std::uint64_t{1} << bits) - 1);
@@ -32,7 +34,9 @@ bool CIORecReg::SetValue(IQDebugger* target, std::uint64_t value) {
 
 bool CIORecReg::EditValue(IQDebugger* target, IQNumberFormat* numberFormat, IQComponentHost* host) {
   if (!IsOnTarget()) return false;
+  const Watch<CIORec> watch(this);
   std::ignore = m_register.Read(target);
+  if (!watch.Stands()) return false;
   std::uint64_t value = m_register.GetValue();
   const std::uint32_t bits = m_register.GetSize() * 8;
   if (!RunEditDialog(numberFormat, host, value, bits, m_register.GetAddressText(0))) return false;
@@ -42,8 +46,10 @@ bool CIORecReg::EditValue(IQDebugger* target, IQNumberFormat* numberFormat, IQCo
 
 platform::Status CIORecReg::ReadValue(IQDebugger* target) {
   if (!IsOnTarget()) return platform::S_OK;
+  // The bit fields below are cut out of the register's value: there is nothing of their own to read, and a
+  // refresh doesn't touch them.
   const platform::Status status = m_register.Read(target);
-  return platform::Failed(status) ? status : CIORec::ReadValue(target);
+  return platform::Failed(status) ? status : platform::S_OK;
 }
 
 platform::Status CIORecReg::WriteValue(IQDebugger* target) {

@@ -66,26 +66,24 @@ bool CIORecReg2::ParseId(CIODataFile* file) {
   description.name = value.substr(0, blank);
   description.address = fields.address;
   description.bitSection = std::move(fields.bitSection);
-  const std::string& name = description.name;
+  const auto size = SizeOf(fields.size);
+  const auto radix = RadixOf(fields.radix);
+  description.size = size.value_or(description.size);
+  description.radix = radix.value_or(description.radix);
+  const bool placed = ApplyAbsoluteFlag(fields.flag, *file, description);
 
-  bool clean = fields.count > 0 && HasAddressForm(value);
-  if (!clean) Report(IDS_BAD_ADDRESS, name);
-  if (const auto size = SizeOf(fields.size)) {
-    description.size = *size;
-  } else {
-    Report(IDS_BAD_SIZE, name);
-    clean = false;
-  }
-  if (!ApplyAbsoluteFlag(fields.flag, *file, description)) {
-    Report(IDS_BAD_ABSOLUTE, name);
-    clean = false;
-  }
-  if (const auto radix = RadixOf(fields.radix)) {
-    description.radix = *radix;
-  } else {
-    Report(IDS_BAD_RADIX, name);
-    clean = false;
-  }
+  const std::string& name = description.name;
+  const Watch<CIORec> watch(GetTop());
+  bool clean = true;
+  const auto expect = [&](bool right, std::uint32_t message) {
+    if (!right) Report(message, name);
+    clean = clean && right;
+  };
+  expect(fields.count > 0 && HasAddressForm(value), IDS_BAD_ADDRESS);
+  expect(size.has_value(), IDS_BAD_SIZE);
+  expect(placed, IDS_BAD_ABSOLUTE);
+  expect(radix.has_value(), IDS_BAD_RADIX);
+  if (!watch.Stands()) return false;
   Define(std::move(description));
   return clean;
 }
@@ -98,13 +96,14 @@ bool CIORecReg2::LoadChildren(CIODataFile* file, IQDebugger* /*target*/) {
   const CIODataFile::Reading reading(*file);
   const KeyList keys = KeyList::UpTo(*file, section, kBitSectionKeys);
   std::string_view rest = keys.Text();
+  const Watch<CIORec> watch(this);
   if (rest.empty()) Report(IDS_BITFIELDS_MISSING, m_register.GetName(), platform::MB_ICONSTOP);
   while (!rest.empty() && HasRoom()) {
     const std::string_view key = KeyList::Next(rest);
     // By its name, so a key that is repeated gives its first value again.
     if (!LoadEntry(key, file->GetValue(section, key))) break;
   }
-  return true;
+  return watch.Stands();
 }
 
 bool CIORecReg2::LoadEntry(std::string_view key, const std::string& value) {

@@ -5,6 +5,7 @@
 
 #include "host/host_ptr.h"
 #include "host/ids.h"
+#include "model/watch.h"
 #include "platform/base/bstr.h"
 #include "platform/base/message_box.h"
 #include "target/debug_entries.h"
@@ -57,6 +58,10 @@ CIORegisterID::CIORegisterID(const CIORegisterID& other) : m_pHost(nullptr) {
   *this = other;
 }
 
+CIORegisterID::~CIORegisterID() {
+  Watch<CIORegisterID>::OnGone(this);
+}
+
 CIORegisterID& CIORegisterID::operator=(const CIORegisterID& other) {
   if (this == &other) return *this;
   m_name = other.m_name;
@@ -91,7 +96,9 @@ platform::Status CIORegisterID::Read(IQDebugger* target) {
   if (target == nullptr) return platform::E_FAIL;
   std::uint32_t word = 0;
   const Access access = AccessFor(m_address, m_size);
+  const Watch<CIORegisterID> watch(this);
   if (access.read == nullptr || access.read(m_address, 1, access.unit, &word) == 0) return platform::E_FAIL;
+  if (!watch.Stands()) return platform::E_FAIL;
   m_value = m_value >> 32 << 32 | word;
   return platform::S_OK;
 }
@@ -99,12 +106,15 @@ platform::Status CIORegisterID::Read(IQDebugger* target) {
 platform::Status CIORegisterID::Write(IQDebugger* /*target*/) {
   SetCurrentDebugHost(m_pHost);
   const auto write = g_debugEntries.IN1_Put_Value;
+  const std::string command = FillCommand(m_address, m_size, GetLowWord());
+  const Watch<CIORegisterID> watch(this);
   if (write == nullptr || write(m_address, m_size, GetLowWord(), 0, 0) == 0) {
     platform::MessageBox(WriteErrorText(), platform::MB_ICONEXCLAMATION);
     return platform::E_FAIL;
   }
+  if (!watch.Stands()) return platform::E_FAIL;
   const CRecorderPtr recorder(m_pHost);
-  if (recorder.IsActive()) recorder.AddCommand(FillCommand(m_address, m_size, GetLowWord()));
+  if (recorder.IsActive()) recorder.AddCommand(command);
   return platform::S_OK;
 }
 

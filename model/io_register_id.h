@@ -31,6 +31,7 @@ class CIORegisterID {
   // A copy is for reading: it has neither the services, which only texts need, nor the absolute flag.
   CIORegisterID(const CIORegisterID& other);
   CIORegisterID& operator=(const CIORegisterID& other);
+  ~CIORegisterID();
 
   // Asks the host for both services and stores the description. The value stays.
   void Set(RegisterDescription description);
@@ -40,7 +41,8 @@ class CIORegisterID {
   void SetProtection(std::string tag, std::uint32_t value);
 
   // Reads the register into the low word of the value. `target` only says that there is a target. On failure
-  // E_FAIL: the value stays and the user sees nothing.
+  // E_FAIL: the value stays and the user sees nothing. Both operations call the host, which may destroy the
+  // register meanwhile: E_FAIL as well, and nothing of it is touched any more.
   [[nodiscard]] platform::Status Read(IQDebugger* target);
   // Writes the low word of the value, and gives the command for it to the host's recorder. `target` isn't
   // looked at. On failure the user reads the debugger's text, and it gives E_FAIL; the value stays as it is.

@@ -20,6 +20,7 @@
 #include "testclient/dlg_edit_test_details.h"
 #include "testclient/result_text.h"
 #include "view/dlg_set_io_file.h"
+#include "view/host_dialog.h"
 
 namespace pvw {
 
@@ -209,7 +210,8 @@ std::optional<std::string> CTestClientIO::AskForFile(const std::string& path) {
   const Life life = m_life;
   CDlgSetIOFile dialog(path, m_pHost, nullptr);
   dialog.SetSavePath(m_pFrame->GetSavePathName());
-  if (dialog.DoModal() != static_cast<int>(platform::IDOK) || life.expired()) return std::nullopt;
+  if (RunHostDialog(dialog, m_pHost) != static_cast<int>(platform::IDOK) || life.expired())
+    return std::nullopt;
   m_pFrame->SetIOFilePath(dialog.GetPath());
   m_pFrame->SetSavePathName(dialog.GetSavePath());
   m_pFrame->SetSessionDirty();

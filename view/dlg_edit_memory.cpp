@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "component/services/module_state.h"
 #include "model/number_text.h"
 #include "platform/base/bstr.h"
 #include "platform/base/message_box.h"
@@ -10,6 +9,7 @@
 #include "resources/ids.h"
 #include "support/error_manager.h"
 #include "support/message_text.h"
+#include "view/host_dialog.h"
 
 namespace pvw {
 
@@ -22,9 +22,8 @@ constexpr std::uint32_t kWidest = 64;
 
 bool RunEditMemory(IQNumberFormat* numberFormat, IQComponentHost* host, std::uint64_t& value,
                    std::uint32_t bits, const std::string& caption) {
-  const CModuleState state;
   CDlgEditMemory dialog(numberFormat, value, bits, caption, host, nullptr);
-  if (dialog.DoModal() != static_cast<int>(platform::IDOK)) return false;
+  if (RunHostDialog(dialog, host) != static_cast<int>(platform::IDOK)) return false;
   value = dialog.GetValue();
   return true;
 }

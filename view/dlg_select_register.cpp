@@ -63,20 +63,20 @@ void CDlgSelectRegister::OnInitDialog() {
   }
   const platform::WaitCursor wait;
   for (HTREEITEM row = m_tree.GetRootItem(); row != 0; row = m_tree.GetNextSiblingItem(row)) {
-    FillModule(row, *m_itemMap[row]);
+    FillModule(row, **m_itemMap.Find(row));
     if (!Exists()) return;
   }
 }
 
 CIORec* CDlgSelectRegister::FindRecord(HTREEITEM item) const {
-  const auto found = m_itemMap.find(item);
-  return found != m_itemMap.end() ? found->second : nullptr;
+  CIORec* const* const record = m_itemMap.Find(item);
+  return record != nullptr ? *record : nullptr;
 }
 
 platform::HTREEITEM CDlgSelectRegister::AddRow(CIORec& record, HTREEITEM parent) {
   const HTREEITEM row = m_tree.InsertItem(record.GetName(), FirstImage(record), parent);
   m_tree.SetItemCheck(row, record.IsSelected());
-  m_itemMap[row] = &record;
+  m_itemMap.Set(row, &record);
   return row;
 }
 

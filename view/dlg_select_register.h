@@ -2,9 +2,8 @@
 // the second pane shows.
 #pragma once
 
-#include <unordered_map>
-
 #include "frame/controls/dlg_with_help.h"
+#include "frame/controls/row_table.h"
 #include "host/debug_services.h"
 #include "model/io_data.h"
 #include "model/io_data_file.h"
@@ -48,7 +47,7 @@ class CDlgSelectRegister : public CDlgWithHelp {
   CIODataFile* const m_pIOFile;
   CIOData* const m_pIOData;
   platform::CImageList m_images;
-  std::unordered_map<HTREEITEM, CIORec*> m_itemMap;
+  CRowTable<CIORec*> m_itemMap;
 };
 
 }  // namespace pvw

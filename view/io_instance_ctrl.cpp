@@ -66,6 +66,7 @@ CPvwIOInstanceCtrl::CPvwIOInstanceCtrl(CIODataFile* file, CIOData* data, std::si
 
 CPvwIOInstanceCtrl::~CPvwIOInstanceCtrl() {
   if (Exists()) DestroyPane();
+  Watch<CPvwIOInstanceCtrl>::OnGone(this);
 }
 
 platform::HWND CPvwIOInstanceCtrl::GetParentHandle() const {

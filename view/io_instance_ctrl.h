@@ -10,14 +10,15 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "component/instance/debug_instance_data_ctrl.h"
 #include "component/services/session_store.h"
+#include "frame/controls/row_table.h"
 #include "frame/controls/tree_grid_ctrl.h"
 #include "model/io_data.h"
 #include "model/io_data_file.h"
+#include "model/watch.h"
 #include "platform/gui/dialog.h"
 #include "platform/gui/graphics.h"
 #include "view/pane_frame.h"
@@ -66,8 +67,9 @@ class CPvwIOInstanceCtrl : public CPvwDebugInstanceDataCtrl {
   // Deletes all rows and makes them anew; the second pane opens its rows, unless the target runs.
   void RebuildTree();
   // Takes back the opens that this pane has counted and lets go of its records; dialogs over them end,
-  // cancelled. The rows stay as they look, and neither refresh, open nor close any more. Runs by itself
-  // before the window goes.
+  // cancelled, and a Watch<CPvwIOInstanceCtrl> of who is in the midst of the rows doesn't stand any more. The
+  // rows stay as they look, and neither refresh, open nor close any more. Runs by itself before the window
+  // goes.
   void ReleaseExpandCounts();
 
   // Escape and Delete belong to an edit that is open.
@@ -109,7 +111,8 @@ class CPvwIOInstanceCtrl : public CPvwDebugInstanceDataCtrl {
   void OpenSelectedRows(bool openAll);
   void DeleteRows();
   void OpenRow(HTREEITEM item, CIORec& record);
-  // False for a module whose fault the user has been told of, and when the window is gone.
+  void CountOpening(CIORec& record);
+  // False for a module whose fault the user has been told of, and when the rows are gone.
   bool ReadChildren(HTREEITEM item, CIORec& record);
   void CloseRow(HTREEITEM item, CIORec& record);
 
@@ -191,8 +194,9 @@ class CPvwIOInstanceCtrl : public CPvwDebugInstanceDataCtrl {
   // WriteValue with that text, whose value it gives. A message on the way closes the edit, cancelled.
   CIORec* WriteEditText(HTREEITEM item, std::string_view text, std::uint64_t& value);
 
-  std::unordered_map<HTREEITEM, CIORec*> m_itemMap;
-  std::string m_findText;  // of the search that Find Next goes on with; empty for none
+  CRowTable<CIORec*> m_itemMap;
+  std::vector<CIORec*> m_opening;  // counted as open, and being read; the innermost last
+  std::string m_findText;          // of the search that Find Next goes on with; empty for none
   bool m_bFindWholeWord = false;
   std::string m_findColumn;
   CTreeGridCtrl m_tree;

@@ -211,10 +211,10 @@ void CPvwIOInstanceCtrl::EndCellEdit() {
 }
 
 void CPvwIOInstanceCtrl::RefreshLabels() {
-  for (const auto& [item, record] : m_itemMap) {
+  m_itemMap.ForEach([this](HTREEITEM item, CIORec* record) {
     record->UpdateEnabled();
     m_tree.SetItemText(item, kNameColumn, record->GetName());
-  }
+  });
 }
 
 bool CPvwIOInstanceCtrl::PreTranslateMessage(const platform::MSG& msg) {

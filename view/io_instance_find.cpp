@@ -6,6 +6,7 @@
 
 #include <utility>
 
+#include "component/services/module_state.h"
 #include "frame/controls/tree_grid_state.h"
 #include "platform/base/message_box.h"
 #include "platform/base/resources.h"
@@ -28,6 +29,7 @@ constexpr int kBitfieldDepth = 2;
 }  // namespace
 
 void CPvwIOInstanceCtrl::OnFind() {
+  const CModuleState state;
   const platform::HWND self = GetHandle();
   CDlgFind dialog(nullptr);
   const auto result = dialog.DoModal();
@@ -70,18 +72,18 @@ void CPvwIOInstanceCtrl::FindNextMatch(std::string text, bool wholeWord) {
 }
 
 // Makes the rows of every module, closed as they are, so that all registers of the device can be found. The
-// target isn't touched. False when the pane has gone meanwhile: faults of the file are told to the user.
+// target isn't touched. False when the rows have gone meanwhile: faults of the file are told to the user.
 bool CPvwIOInstanceCtrl::LoadAllRows() {
   const platform::WaitCursor wait;
   const CIODataFile::Reading reading(*m_pIOFile);
-  const platform::HWND self = GetHandle();
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   HTREEITEM row = m_tree.GetRootItem();
   while (row != 0) {
     const HTREEITEM next = m_tree.GetNextSiblingItem(row);
     CIORec* const record = FindRecord(row);
     if (record != nullptr && !(record->AreChildrenKnown() && HasRealChildren(row))) {
       LoadRowsOf(row, *record);
-      if (!platform::IsWindow(self)) return false;
+      if (!rows.Stands()) return false;
     }
     row = next;
   }
@@ -89,14 +91,14 @@ bool CPvwIOInstanceCtrl::LoadAllRows() {
 }
 
 void CPvwIOInstanceCtrl::LoadRowsOf(HTREEITEM row, CIORec& record) {
-  const platform::HWND self = GetHandle();
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   if (const HTREEITEM child = m_tree.GetChildItem(row)) m_tree.DeleteItem(child);
   const bool loaded = record.AreChildrenKnown() || record.LoadChildren(m_pIOFile, nullptr);
-  if (!platform::IsWindow(self)) return;
+  if (!rows.Stands()) return;
   if (loaded) {
     ApplySelectionToRow(row, record);
     AddChildRows(record, row);
-    if (!platform::IsWindow(self) || !record.GetChildren().empty()) return;
+    if (!rows.Stands() || !record.GetChildren().empty()) return;
   }
   SetLeafImage(row, record);
 }
@@ -118,16 +120,16 @@ platform::HTREEITEM CPvwIOInstanceCtrl::SearchRows(HTREEITEM behind, std::string
 }
 
 void CPvwIOInstanceCtrl::ShowHit(HTREEITEM row) {
-  const platform::HWND self = GetHandle();
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   const HTREEITEM parent = m_tree.GetParentItem(row);
   for (const HTREEITEM above : {m_tree.GetParentItem(parent), parent}) {
     if (above != 0) m_tree.Expand(above, platform::TVE_EXPAND);
-    if (!platform::IsWindow(self)) return;
+    if (!rows.Stands()) return;
   }
   m_tree.SelectItem(row);
-  if (!platform::IsWindow(self)) return;
+  if (!rows.Stands()) return;
   platform::SetFocus(m_tree.GetHandle());
-  if (platform::IsWindow(self)) m_lastFoundItem = row;
+  if (rows.Stands()) m_lastFoundItem = row;
 }
 
 void CPvwIOInstanceCtrl::EndSearch(std::uint32_t name_message, std::uint32_t address_message) {

@@ -7,6 +7,7 @@
 #include "support/path_text.h"
 #include "support/placeholder_expander.h"
 #include "view/dlg_set_io_file.h"
+#include "view/host_dialog.h"
 #include "view/io_instance_ctrl.h"
 
 namespace pvw {
@@ -32,7 +33,7 @@ void CPvwIOInstanceCtrl::OnLoadIOFile() {
   const platform::HWND self = GetHandle();
   CDlgSetIOFile dialog(m_pFrame->GetIOFilePath(), host, nullptr);
   dialog.SetSavePath(m_pFrame->GetSavePathName());
-  if (dialog.DoModal() != static_cast<int>(platform::IDOK) || !platform::IsWindow(self)) return;
+  if (RunHostDialog(dialog, host) != static_cast<int>(platform::IDOK) || !platform::IsWindow(self)) return;
   m_pFrame->SetIOFilePath(dialog.GetPath());
   m_pFrame->SetSavePathName(dialog.GetSavePath());
   m_pFrame->SetSessionDirty();
@@ -42,7 +43,6 @@ void CPvwIOInstanceCtrl::OnLoadIOFile() {
 
 void CPvwIOInstanceCtrl::LoadIOFile(std::string_view path, std::uint32_t baseAddress) {
   if (m_paneIndex == 1) return;
-  const platform::HWND self = GetHandle();
   // Before the records go, no row refers to one, locked or not.
   DeleteRows();
   if (m_pOtherPane != nullptr) m_pOtherPane->DeleteRows();
@@ -55,11 +55,13 @@ void CPvwIOInstanceCtrl::LoadIOFile(std::string_view path, std::uint32_t baseAdd
   }
   m_pIOFile->Open(file, baseAddress);
   m_pIOData->SetHost(host);
-  // A fault of the file is told to the user, and the host may close the view meanwhile.
-  const auto is_gone = [self] { return self != 0 && !platform::IsWindow(self); };
+  // A fault of the file is told to the user, and the host may close the view meanwhile, or load another file.
   CIOData& data = *m_pIOData;
+  const Watch<CIOData> modules(&data);
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   std::ignore = data.LoadModules(m_pIOFile);
-  if (is_gone()) {
+  if (!modules.Stands()) return;
+  if (!rows.Stands()) {
     data.ApplySelection();
     return;
   }
@@ -67,7 +69,7 @@ void CPvwIOInstanceCtrl::LoadIOFile(std::string_view path, std::uint32_t baseAdd
   if (GetFileWriteTime(file, time)) m_pFrame->SetIOFileWriteTime(time);
   m_pIOData->ApplySelection();
   FillTree(true);
-  if (is_gone()) return;
+  if (!rows.Stands()) return;
 
   if (m_pFrame->IsRefreshLocked()) {
     // Rows don't open in a locked view, so the other pane waits, empty, for the lock to end.
@@ -75,10 +77,11 @@ void CPvwIOInstanceCtrl::LoadIOFile(std::string_view path, std::uint32_t baseAdd
     return;
   }
   std::ignore = m_pIOData->ReadValues(debugger);
-  if (is_gone()) return;
+  if (!rows.Stands()) return;
   platform::SetFocus(m_tree.GetHandle());
+  if (!rows.Stands()) return;
   if (const HTREEITEM first = m_tree.GetItemAtRow(0)) m_tree.SelectItem(first);
-  if (!is_gone() && m_pOtherPane != nullptr) m_pOtherPane->RebuildTree();
+  if (rows.Stands() && m_pOtherPane != nullptr) m_pOtherPane->RebuildTree();
 }
 
 void CPvwIOInstanceCtrl::OnLockEnded() {

@@ -16,7 +16,7 @@ namespace pvw {
 void CPvwIOInstanceCtrl::RefreshData() {
   // Marks last until the next stop of the target, which shows only what it changed itself.
   if (m_pFrame->IsTargetUpdate()) m_tree.ClearChanged();
-  for (const auto& [item, record] : m_itemMap) RefreshRow(item, *record);
+  m_itemMap.ForEach([this](HTREEITEM item, CIORec* record) { RefreshRow(item, *record); });
 }
 
 void CPvwIOInstanceCtrl::RefreshRow(HTREEITEM item, CIORec& record) {
@@ -51,7 +51,9 @@ void CPvwIOInstanceCtrl::UpdateRowValue(HTREEITEM item) {
 }
 
 void CPvwIOInstanceCtrl::OnRefresh() {
+  const platform::HWND self = GetHandle();
   std::ignore = m_pIOData->ReadValues(debugger);
+  if (!platform::IsWindow(self)) return;
   RefreshData();
   if (m_pOtherPane != nullptr) m_pOtherPane->RefreshData();
 }

@@ -1,9 +1,10 @@
 // How a pane's rows come from the records.
 //
 // A faulty file is told to the user in the midst of it, and a read calls the host: either may close the view,
-// and with it the pane. What goes on after one looks at the window first.
+// load another file or disconnect. What goes on after one asks whether the pane's rows still stand.
 
 #include <tuple>
+#include <utility>
 
 #include "frame/controls/tree_grid_state.h"
 #include "platform/gui/common_dialogs.h"
@@ -18,16 +19,11 @@ namespace {
 // Stands in a closed module for children that haven't been read, so that it has an expand box.
 constexpr std::string_view kPlaceholderName = "null";
 
-// 0 is a pane that had no window any more to begin with.
-bool IsGone(platform::HWND pane) {
-  return pane != 0 && !platform::IsWindow(pane);
-}
-
 }  // namespace
 
 CIORec* CPvwIOInstanceCtrl::FindRecord(HTREEITEM item) const {
-  const auto found = m_itemMap.find(item);
-  return found != m_itemMap.end() ? found->second : nullptr;
+  CIORec* const* const record = m_itemMap.Find(item);
+  return record != nullptr ? *record : nullptr;
 }
 
 bool CPvwIOInstanceCtrl::HasRealChildren(HTREEITEM item) const {
@@ -42,7 +38,7 @@ bool CPvwIOInstanceCtrl::IsVisibleHere(const CIORec& record) const {
 
 platform::HTREEITEM CPvwIOInstanceCtrl::InsertRow(CIORec& record, HTREEITEM parent) {
   const HTREEITEM item = m_tree.InsertItem(record.GetName(), FirstImage(record), parent);
-  m_itemMap[item] = &record;
+  m_itemMap.Set(item, &record);
   return item;
 }
 
@@ -51,14 +47,14 @@ void CPvwIOInstanceCtrl::SetLeafImage(HTREEITEM item, const CIORec& record) {
 }
 
 void CPvwIOInstanceCtrl::FillTree(bool openAll) {
-  const platform::HWND self = GetHandle();
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   for (std::size_t i = 0; CIORec* const module = m_pIOData->GetModule(i); ++i) {
     if (!IsVisibleHere(*module)) continue;
     const HTREEITEM row = InsertRow(*module, platform::kTreeRoot);
     if (m_paneIndex != 0) continue;
     if (module->AreChildrenKnown()) {
       AddChildRows(*module, row);
-      if (IsGone(self)) return;
+      if (!rows.Stands()) return;
     } else {
       m_tree.SetItemFlag(m_tree.InsertItem(kPlaceholderName, kPage, row), true);
     }
@@ -93,34 +89,34 @@ void CPvwIOInstanceCtrl::ApplySelectionToRow(HTREEITEM item, CIORec& record) {
 
 void CPvwIOInstanceCtrl::OpenSelectedRows(bool openAll) {
   const platform::WaitCursor wait;
-  const platform::HWND self = GetHandle();
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   HTREEITEM row = m_tree.GetRootItem();
   while (row != 0) {
     const HTREEITEM next = m_tree.GetNextSiblingItem(row);
     if (CIORec* const record = FindRecord(row)) FillSelectedRow(row, *record);
-    if (IsGone(self)) return;
+    if (!rows.Stands()) return;
     row = next;
   }
-  if (openAll && !IsTargetRunning() && !IsGone(self)) OpenRows();
+  if (openAll && !IsTargetRunning() && rows.Stands()) OpenRows();
 }
 
 void CPvwIOInstanceCtrl::FillSelectedRow(HTREEITEM item, CIORec& record) {
-  const platform::HWND self = GetHandle();
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   if (!record.AreChildrenKnown()) {
     const bool loaded = record.LoadChildren(m_pIOFile, nullptr);
-    if (IsGone(self)) return;
+    if (!rows.Stands()) return;
     if (!loaded) {
       SetLeafImage(item, record);
       return;
     }
     ApplySelectionToRow(item, record);
     AddChildRows(record, item);
-    if (!IsGone(self) && HasNoChildren(record)) SetLeafImage(item, record);
+    if (rows.Stands() && HasNoChildren(record)) SetLeafImage(item, record);
     return;
   }
-  if (AddChildRows(record, item) || IsGone(self)) return;
+  if (AddChildRows(record, item) || !rows.Stands()) return;
   // Nothing of the module is selected any more.
-  m_itemMap.erase(item);
+  m_itemMap.Erase(item);
   m_tree.DeleteItem(item);
   record.SetSelected(false);
 }
@@ -141,11 +137,14 @@ void CPvwIOInstanceCtrl::RebuildTree() {
 }
 
 void CPvwIOInstanceCtrl::ReleaseExpandCounts() {
+  Watch<CPvwIOInstanceCtrl>::OnGone(this);
   EndDialogs();
-  for (const auto& [item, record] : m_itemMap) {
+  m_itemMap.ForEach([this](HTREEITEM item, CIORec* record) {
     if (record->IsExpanded() && m_tree.IsExpanded(item)) record->SetExpanded(false);
-  }
-  m_itemMap.clear();
+  });
+  // A row that is being opened counts, and doesn't look open yet.
+  for (CIORec* const record : std::exchange(m_opening, {})) record->SetExpanded(false);
+  m_itemMap.Clear();
 }
 
 void CPvwIOInstanceCtrl::DeleteRows() {
@@ -161,52 +160,52 @@ platform::LRESULT CPvwIOInstanceCtrl::OnItemExpanding(platform::NMHDR& header) {
   const auto& notification = reinterpret_cast<const platform::NMTREEVIEW&>(header);
   CIORec* const record = FindRecord(notification.item);
   if (record == nullptr) return 1;
-  const platform::HWND self = GetHandle();
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   if (notification.action == platform::TVE_EXPAND) OpenRow(notification.item, *record);
-  if (IsGone(self)) return 1;
+  if (!rows.Stands()) return 1;
   if (notification.action == platform::TVE_COLLAPSE) CloseRow(notification.item, *record);
   m_pFrame->SetSessionDirty();
   return 0;
 }
 
 void CPvwIOInstanceCtrl::OpenRow(HTREEITEM item, CIORec& record) {
-  const platform::HWND self = GetHandle();
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   if (!record.IsMissing()) m_tree.SetItemImage(item, kOpenFolder);
+  bool loaded = true;
   if (record.AreChildrenKnown() && HasRealChildren(item)) {
-    record.SetExpanded(true);
+    CountOpening(record);
     std::ignore = record.ReadValue(debugger);
-    if (IsGone(self)) {
-      record.SetExpanded(false);
-    } else {
-      UpdateRowValues(item);
-    }
-    return;
+    if (rows.Stands()) UpdateRowValues(item);
+  } else {
+    loaded = ReadChildren(item, record);
   }
-  const bool loaded = ReadChildren(item, record);
-  if (IsGone(self)) return;
-  // A row that has nothing below it doesn't open, so it mustn't count as open either. A module with a fault
-  // does count: that tells who loads it next to take what there is.
-  if (loaded && !m_tree.ItemHasChildren(item)) record.SetExpanded(false);
+  if (!rows.Stands()) return;
+  m_opening.pop_back();
+  // A row that has nothing below it doesn't open, and one that the host has opened in the midst of a read
+  // doesn't open twice, so they mustn't count. A module with a fault does count: that tells who loads it next
+  // to take what there is.
+  if ((loaded && !m_tree.ItemHasChildren(item)) || m_tree.IsExpanded(item)) record.SetExpanded(false);
+}
+
+void CPvwIOInstanceCtrl::CountOpening(CIORec& record) {
+  record.SetExpanded(true);
+  m_opening.push_back(&record);
 }
 
 bool CPvwIOInstanceCtrl::ReadChildren(HTREEITEM item, CIORec& record) {
   if (const HTREEITEM placeholder = m_tree.GetChildItem(item)) m_tree.DeleteItem(placeholder);
-  const platform::HWND self = GetHandle();
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   bool loaded = true;
   if (record.AreChildrenKnown()) {
     std::ignore = record.ReadValue(debugger);
   } else {
     loaded = record.LoadChildren(m_pIOFile, debugger);
-    if (IsGone(self)) return false;
-    ApplySelectionToRow(item, record);
+    if (rows.Stands()) ApplySelectionToRow(item, record);
   }
-  if (IsGone(self)) return false;
-  record.SetExpanded(true);
+  if (!rows.Stands()) return false;
+  CountOpening(record);
   if (loaded) AddChildRows(record, item);
-  if (IsGone(self)) {
-    record.SetExpanded(false);
-    return false;
-  }
+  if (!rows.Stands()) return false;
   if (!loaded || HasNoChildren(record)) SetLeafImage(item, record);
   return loaded;
 }

@@ -67,7 +67,7 @@ bool RecordRows::AddBelow(CIORec& record, HTREEITEM parent, const AddRow& add_ro
       // What could be read shows, whether or not the file has a fault.
       std::ignore = child.LoadChildren(&file, nullptr);
       // 0 is a tree that had no window to begin with.
-      if (window != 0 && !platform::IsWindow(window)) return added;
+      if ((window != 0 && !platform::IsWindow(window)) || !tree.HasItem(row)) return added;
       ApplySelection(row, child);
       if (HasNoChildren(child)) {
         tree.SetItemImage(row, LeafImage(child));

@@ -27,7 +27,8 @@ struct RecordRows {
   using AddRow = std::function<platform::HTREEITEM(CIORec& record, platform::HTREEITEM parent)>;
   // Makes all rows below `parent` down to the bit fields, and reads from the file what hasn't been read.
   // The lists of all these records are final then. A fault of the file is told to the user in the midst of
-  // it; when the tree's window goes meanwhile, nothing is touched any more. True when a row was added.
+  // it; when the tree's window or the row goes meanwhile, nothing is touched any more: whoever destroys a
+  // record has deleted its rows before. True when a row was added.
   bool AddBelow(CIORec& record, platform::HTREEITEM parent, const AddRow& add_row) const;
   // Right after the children of the row's record were made: selects those that the saved selection names.
   void ApplySelection(platform::HTREEITEM item, CIORec& record) const;

@@ -9,6 +9,7 @@
 #include <map>
 
 #include "host/events.h"
+#include "platform/base/bstr.h"
 #include "platform/base/files.h"
 #include "tests/component/component_world.h"
 
@@ -252,6 +253,52 @@ TEST_F(ConnectTest, AViewThatClosesWhileItTellsOfAFaultyFileOpensNoRow) {
   EXPECT_EQ(world.Dock(), nullptr);
   world.OpenView();
   EXPECT_THAT(world.Rows(0), ElementsAre("PORT"));
+}
+
+TEST_F(ConnectTest, EndsWhateverItIsInTheMidstOfWhenItDisconnects) {
+  World world;
+  platform::WriteWholeFile(world.dir.Path("device.io"),
+                           "[Modules]\nFileVersion=2\nModule1=PORT\nModule2=BAD\n[PORT]\nreg0=P0\nreg1=P1\n"
+                           "[P0]\nid=PDATA 0xFF0000 B A H\n[P1]\nid=PDIR 0xFF0001 B A H NONE\n"
+                           "[BAD]\ndep=GONE 0 1\n");
+  Instance instance(file);
+  const auto send = [&](std::uint32_t command) {
+    platform::SendMessage(world.Pane(0), platform::WM_COMMAND, command);
+  };
+  const platform::ScopedBstr device(world.host.device_path);
+  constexpr std::uint32_t kRefresh = 32817, kLock = 32826;
+  const std::map<std::string, std::function<void()>> kOperations = {
+      {"opens", [&] { world.OpenView(); }},
+      {"loads a session", [&] { world.LoadSession(); }},
+      {"opens rows", [&] { world.OpenView(), world.PaneCount() != 0 ? world.Expand(0, 0) : void(); }},
+      {"shows news", [&] { instance.Fire(EVENT_MEMORY_CHANGED); }},
+      {"is told to update", [&] { world.Update()->UpdateWindow(); }},
+      {"refreshes", [&] { send(kRefresh); }},
+      {"unlocks", [&] { send(kLock), world.Server()->LoadIOFile(device.Get(), 0), send(kLock); }}};
+  for (const auto& [what, operation] : kOperations) {
+    for (int number = 0, left = -1; left < 0; ++number) {
+      SCOPED_TRACE("event " + std::to_string(number) + " while it " + what);
+      EXPECT_EQ(instance.Connect(world.host), S_OK);
+      instance.Fire(EVENT_TARGET_CONNECTED);
+      world.Keep("IOSelection IOWnd0", "{PORT?{PDATA?}}");
+      const bool opens = what == "opens" || what == "opens rows";
+      world.Keep("IOCtrlViews", opens ? "0" : "1");
+      world.Keep("IOWnd0Exp0", "1");
+      if (what != "loads a session") world.LoadSession();
+      left = number;
+      const std::function<void()> event = [&] {
+        if (left >= 0 && left-- == 0) instance.Disconnect();
+      };
+      std::function<void()> line = [&] { meanwhile = line, event(); };
+      meanwhile = line;
+      world.host.during["ReadDirect"] = event;
+      operation();
+      world.host.during.clear();
+      meanwhile = {};
+      instance.Disconnect();
+      ExpectNothingLeft(world);
+    }
+  }
 }
 
 TEST_F(ConnectTest, LetsTheComplaintAboutAWrongDebuggerLibraryOut) {

@@ -54,20 +54,29 @@ TEST_F(EditTest, TheDialogWritesAndTheEventItFiresComesBackAsARefresh) {
   EXPECT_EQ(world.host.session["ws prj cfg MRULABELS_DATAMANAGER_KEY"], "5a");
 }
 
-TEST_F(EditTest, AComponentThatGoesUnderAnOpenDialogWritesNothing) {
+TEST_F(EditTest, ADialogEndsWithTheConnectionToTheHostThatItAsks) {
   for (const bool destroy : {false, true}) {
     Open();
-    EditFirst([&](platform::CDialog& dialog) {
+    const auto go = [&](platform::CDialog& dialog) {
       destroy ? instance.Destroy() : static_cast<void>(instance.Disconnect());
-      user::TypeText("5a");
-      user::PressOk(dialog);
-    });
+      EXPECT_FALSE(dialog.Exists());
+    };
+    EditFirst(go);
     EXPECT_THAT(Told(), testing::IsEmpty());
     if (destroy) break;
     instance.Connect(world.host);
     instance.Fire(EVENT_TARGET_CONNECTED);
     world.LoadSession();
+
+    Open();
+    display.Give(platform::DialogAnswer{{go}});
+    platform::SendMessage(world.Pane(0), platform::WM_COMMAND, 32773);
+    instance.Connect(world.host);
+    instance.Fire(EVENT_TARGET_CONNECTED);
+    world.LoadSession();
   }
+  EXPECT_THAT(user, ElementsAre("dialog: Edit PDATA at H'00FF0000", "dialog: Set I/O File",
+                                "dialog: Edit PDATA at H'00FF0000"));
 }
 
 }  // namespace
