@@ -38,13 +38,13 @@ Definition::~Definition() {
   std::remove(m_native.c_str());
 }
 
-std::string Definition::WholeSelection() const {
+std::string Definition::Selection(int one_in) const {
   std::string text = "{";
   for (int r = 0; r < m_shape.registers; ++r) {
     const std::string module = std::to_string(r / m_shape.registersPerModule + 1);
     const int place = r % m_shape.registersPerModule;
     if (place == 0) text += (r == 0 ? "MODULE" : "}MODULE") + module + "?{";
-    text += "M" + module + "R" + std::to_string(place) + "?";
+    if (r % one_in == 0) text += "M" + module + "R" + std::to_string(place) + "?";
   }
   return text + "}}";
 }

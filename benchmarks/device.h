@@ -24,8 +24,9 @@ class Definition {
   const pvw::test::DefinitionShape& Shape() const { return m_shape; }
   const std::string& NativePath() const { return m_native; }
   const std::string& Path() const { return m_path; }
-  // Names every register, and every module, in the form that a session keeps.
-  std::string WholeSelection() const;
+  // Names one register in so many, and every module, in the form that a session keeps.
+  std::string Selection(int one_in) const;
+  std::string WholeSelection() const { return Selection(1); }
   // Lookups of keys that opening everything makes.
   std::size_t LookupCount() const;
   int FieldCount() const;

@@ -48,7 +48,8 @@ class RatioReporter : public benchmark::ConsoleReporter {
                  version, size, "<= 3");
       }
       for (const char* name : {"ViewOpen", "ViewExpandAll", "ViewStopChanged", "ViewStopUnchanged",
-                               "ViewSessionSave", "ViewSessionLoad", "ViewTextDump"}) {
+                               "ViewSessionSave", "ViewSessionLoad", "ViewTextDump", "WorkFind",
+                               "WorkSelectAll", "WorkLoad", "WorkCapture", "WorkCompare"}) {
         Growth(name, version, "<= 1.5");
       }
       for (const char* name : {"ViewRepaint", "ViewScrollPage"}) {

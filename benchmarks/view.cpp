@@ -1,5 +1,7 @@
 #include "benchmarks/view.h"
 
+#include "platform/base/text.h"
+
 namespace bench {
 
 View::View(const Definition& definition) : m_definition(definition) {
@@ -7,6 +9,13 @@ View::View(const Definition& definition) : m_definition(definition) {
   m_instance.host.device.SetDefaultIOPath(path.substr(0, path.size() - 3));
   m_instance.host.workspace = {"demo", "demo", "Debug", "c:\\"};
   m_instance.Start(true);
+}
+
+void View::Select(const std::string& selection) {
+  m_instance.host.session_values.Set({u"demo", u"demo", u"Debug"},
+                                     u"{F866DB60-6186-11D5-8BBE-0004E2013C71}IOSelection IOWnd0",
+                                     platform::ToWide(selection));
+  m_instance.LoadSession();
 }
 
 void View::Open() {

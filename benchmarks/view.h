@@ -20,6 +20,9 @@ class View {
   View& operator=(const View&) = delete;
 
   ioview::Instance& Host() { return m_instance; }
+  platform::HeadlessDisplay& Display() { return m_stage.display; }
+  // The registers of the second page, in the form that a session keeps; before the view opens.
+  void Select(const std::string& selection);
   void Open();
   void Close() { m_instance.CloseView(); }
   platform::SECTreeCtrl& Grid() { return *m_instance.Grid(ioview::PaneIndex::kAll); }
