@@ -6,7 +6,7 @@
 JOBS := $(shell nproc)
 EXAMPLES := examples
 
-.PHONY: run test program setup pictures bench fuzz format tidy clean
+.PHONY: run test program setup pictures bench fuzz random format tidy clean
 
 run: program
 	scripts/run-example build/release/bin/ioview $(EXAMPLES)
@@ -16,6 +16,7 @@ test: program
 	cmake --build --preset asan -j$(JOBS)
 	ctest --preset asan -j$(JOBS)
 	scripts/fuzz-short 10
+	fuzz/random_scripts build/asan/bin/ioview --seconds 20
 
 # The optimised program, with its benchmarks, in build/release/bin.
 program: setup
@@ -37,6 +38,12 @@ bench: program
 # Ten minutes for each fuzz target.
 fuzz: setup
 	scripts/fuzz-short 600
+
+# An hour of random scripts, with sanitizers.
+random: setup
+	cmake --preset asan
+	cmake --build --preset asan -j$(JOBS) --target ioview
+	fuzz/random_scripts build/asan/bin/ioview --seconds 3600 --seed $$(date +%s)
 
 format: setup
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i
