@@ -23,7 +23,7 @@ namespace {
 constexpr off_t kLargestFile = off_t{1} << 30;
 
 [[noreturn]] void Fail(const std::string& native, std::string_view text) {
-  throw ProgramError((native.empty() ? "''" : OneLine(native)) + ": " + std::string(text));
+  throw ProgramError(FileWord(native) + ": " + std::string(text));
 }
 
 }  // namespace
@@ -57,7 +57,12 @@ std::string DrivePathOf(const std::string& native) {
   const std::filesystem::path absolute = std::filesystem::absolute(native, error);
   if (error) Fail(native, error.message());
   const std::optional<std::string> path = platform::FromNativePath(absolute.native());
-  if (path) return *path;
+  if (path) {
+    const std::optional<std::string> full = platform::FullPath(*path);
+    if (!full) Fail(native, "Its path is too long: more than 259 bytes in the code page");
+    if (*full != *path) Fail(native, "A path with a name that ends in a dot or a blank can't be opened");
+    return *path;
+  }
   if (absolute.native().find('\\') != std::string::npos) {
     Fail(native, "A path with a backslash in a name can't be opened");
   }

@@ -30,6 +30,10 @@ std::string OneLine(std::string_view text) {
   return line;
 }
 
+std::string FileWord(std::string_view name) {
+  return name.empty() ? "''" : OneLine(name);
+}
+
 std::string Quoted(std::string_view word) {
   if (word.size() <= kLongestWord) return '\'' + OneLine(word) + '\'';
   // The words of a command line are UTF-8: the cut goes in front of a character that it would split.

@@ -1,7 +1,9 @@
 #include "ioview/commands/script.h"
 
 #include <memory>
+#include <string>
 
+#include "ioview/script/command_table.h"
 #include "ioview/script/script_runner.h"
 
 namespace ioview {
@@ -35,6 +37,8 @@ constexpr char kFooter[] =
     "Answer (before the command that opens a dialog; its steps stand between semicolons):\n"
     "  answer set ID TEXT; check ID 1; show; ok\n"
     "  answer file PATH, answer print FILE, answer menu INDEX, answer cancel\n"
+    "  Steps: set|type|paste ID TEXT, caret ID FROM [TO], check ID 0|1, pick ID INDEX, press ID,\n"
+    "  tick|click|expand|collapse ROW, header COLUMN, key [ID] KEY, show, ok, cancel\n"
     "Check:\n"
     "  expect TEXT                    what the command before printed\n"
     "\n"
@@ -49,14 +53,30 @@ constexpr char kFooter[] =
     "      Keeps session and user settings in files, for a later run.\n"
     "\n"
     "Exit status: 0; 1 when an `expect` failed or an answer was left unused; 2 when the script\n"
-    "is wrong. One line on standard error, `ioview: FILE:LINE: TEXT`, then says why.";
+    "is wrong. One line on standard error, `ioview: FILE:LINE: TEXT`, then says why.\n"
+    "\n"
+    "All commands:";
+
+// One a line, the form of its arguments behind it.
+std::string CommandLines() {
+  std::string lines;
+  for (const auto group : AllCommands()) {
+    for (const ScriptCommand& command : group) {
+      lines += "\n  ";
+      lines += command.name;
+      if (!command.form.empty()) lines += ' ';
+      lines += command.form;
+    }
+  }
+  return lines;
+}
 
 }  // namespace
 
 void AddScriptCommand(CLI::App& app, int& status) {
   const auto options = std::make_shared<ScriptOptions>();
   CLI::App* const script = app.add_subcommand("script", kAbout);
-  script->footer(kFooter);
+  script->footer(kFooter + CommandLines());
   script->add_option("FILE", options->file, "The script; - reads it from standard input")
       ->required()
       ->type_name("");

@@ -11,9 +11,9 @@
 #include "ioview/commands/device_options.h"
 #include "ioview/component/headless_stage.h"
 #include "ioview/component/instance.h"
-#include "ioview/native_file.h"
 #include "ioview/program_error.h"
 #include "ioview/standard_output.h"
+#include "ioview/test/snapshot_file.h"
 #include "ioview/test/snapshot_text.h"
 #include "platform/base/text.h"
 
@@ -95,7 +95,8 @@ void RunCapture(const CaptureArguments& arguments) {
   arguments.device.SetCodePage();
   const std::vector<std::string> names = Distinct(arguments.registers);
   for (const std::string& name : names) {
-    if (name.empty() || name.find(' ') != std::string::npos) {
+    if (name.empty()) throw ProgramError("--registers: A register without a name can't be captured");
+    if (name.find(' ') != std::string::npos) {
       throw ProgramError("--registers: " + Quoted(name) + " can't be captured: a name has no blanks");
     }
   }
@@ -117,19 +118,12 @@ void RunCapture(const CaptureArguments& arguments) {
   FlushOutput();
 }
 
-std::string ReadSnapshot(const std::string& native) {
-  std::string text = ReadWholeFile(native);
-  while (!text.empty() && (text.back() == '\n' || text.back() == '\r')) text.pop_back();
-  if (!IsSnapshot(text)) throw ProgramError(OneLine(native) + ": This is no snapshot of `ioview capture`");
-  return text;
-}
-
 // 1 when something differs.
 int RunCompare(const CompareArguments& arguments) {
   arguments.device.SetCodePage();
-  std::string first = ReadSnapshot(arguments.snapshot);
+  std::string first = ReadSnapshotFile(arguments.snapshot);
   if (arguments.ignore_address) first = IgnoringAddresses(first);
-  const std::string second = arguments.second ? ReadSnapshot(*arguments.second) : std::string();
+  const std::string second = arguments.second ? ReadSnapshotFile(*arguments.second) : std::string();
   TestBench bench(arguments.device);
   const platform::ScopedBstr text(first);
   platform::ScopedBstr summary, detail, words;

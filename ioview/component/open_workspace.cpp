@@ -11,7 +11,7 @@ namespace ioview {
 Workspace OpenWorkspace(const std::string& native_directory) {
   std::error_code error;
   if (!std::filesystem::is_directory(native_directory, error)) {
-    throw ProgramError(OneLine(native_directory) + ": There is no such directory");
+    throw ProgramError(FileWord(native_directory) + ": There is no such directory");
   }
   std::string path = DrivePathOf(native_directory);
   while (path.size() > 3 && path.back() == '\\') path.pop_back();

@@ -1,20 +1,10 @@
 #include "ioview/host/custom_placeholders.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace ioview {
 
 namespace {
-
-void Set(std::vector<CustomPlaceholder>& list, CustomPlaceholder placeholder) {
-  const auto same = std::ranges::find(list, placeholder.name, &CustomPlaceholder::name);
-  if (same != list.end()) {
-    *same = std::move(placeholder);
-  } else {
-    list.push_back(std::move(placeholder));
-  }
-}
 
 // Four elements a placeholder; the readers take the entries from the first three quarters of the list, and
 // the last quarter stays empty.
@@ -34,18 +24,19 @@ platform::Status Give(const std::vector<CustomPlaceholder>& placeholders, platfo
 
 }  // namespace
 
-void CustomPlaceholders::SetGlobal(CustomPlaceholder placeholder) {
-  Set(global_, std::move(placeholder));
-}
-
-void CustomPlaceholders::SetOfWorkspace(CustomPlaceholder placeholder) {
-  Set(of_workspace_, std::move(placeholder));
+void PlaceholderList::Set(CustomPlaceholder placeholder) {
+  const auto [place, is_new] = places_.try_emplace(placeholder.name, entries_.size());
+  if (is_new) {
+    entries_.push_back(std::move(placeholder));
+  } else {
+    entries_[place->second] = std::move(placeholder);
+  }
 }
 
 platform::Status CustomPlaceholders::GetGlobalPlaceholders(platform::VARIANT* list) {
   if (!Enter("GetGlobalPlaceholders")) return platform::E_FAIL;
   *list = {};
-  return Give(global_, list);
+  return Give(global_.Entries(), list);
 }
 
 platform::Status CustomPlaceholders::GetWorkspacePlaceholders(platform::BSTR workspace,
@@ -53,7 +44,7 @@ platform::Status CustomPlaceholders::GetWorkspacePlaceholders(platform::BSTR wor
   if (!Enter("GetWorkspacePlaceholders", workspace)) return platform::E_FAIL;
   *list = {};
   if (!workspace_.IsOpen() || platform::BstrText(workspace) != workspace_.name) return platform::E_FAIL;
-  return Give(of_workspace_, list);
+  return Give(of_workspace_.Entries(), list);
 }
 
 }  // namespace ioview

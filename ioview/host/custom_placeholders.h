@@ -1,7 +1,10 @@
 // IQCustomPlaceholders: the placeholders that the user of this host has defined.
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "host/workspace_services.h"
@@ -17,13 +20,24 @@ struct CustomPlaceholder {
   std::string description;
 };
 
+// In the order in which their names were first set.
+class PlaceholderList {
+ public:
+  // One of a name that is there already takes its place.
+  void Set(CustomPlaceholder placeholder);
+  const std::vector<CustomPlaceholder>& Entries() const { return entries_; }
+
+ private:
+  std::vector<CustomPlaceholder> entries_;
+  std::unordered_map<std::string, std::size_t> places_;
+};
+
 class CustomPlaceholders : public Service<pvw::IQCustomPlaceholders, pvw::IID_IQCustomPlaceholders> {
  public:
   explicit CustomPlaceholders(const Workspace& workspace) : workspace_(workspace) {}
 
-  // One of a name that is there already takes its place.
-  void SetGlobal(CustomPlaceholder placeholder);
-  void SetOfWorkspace(CustomPlaceholder placeholder);
+  void SetGlobal(CustomPlaceholder placeholder) { global_.Set(std::move(placeholder)); }
+  void SetOfWorkspace(CustomPlaceholder placeholder) { of_workspace_.Set(std::move(placeholder)); }
 
   platform::Status GetGlobalPlaceholders(platform::VARIANT* list) override;
   // Fails, and gives an empty VARIANT, for another workspace than the open one.
@@ -31,8 +45,8 @@ class CustomPlaceholders : public Service<pvw::IQCustomPlaceholders, pvw::IID_IQ
 
  private:
   const Workspace& workspace_;
-  std::vector<CustomPlaceholder> global_;
-  std::vector<CustomPlaceholder> of_workspace_;
+  PlaceholderList global_;
+  PlaceholderList of_workspace_;
 };
 
 }  // namespace ioview

@@ -19,6 +19,12 @@ platform::Status GiveIf(bool known, const std::string& text, platform::BSTR* out
   return known ? GiveText(text, out) : platform::E_FAIL;
 }
 
+// A drive's root has its backslash already.
+std::string Below(std::string directory, const std::string& name) {
+  if (directory.empty() || platform::FindLastChar(directory, '\\') != directory.size() - 1) directory += '\\';
+  return directory + name;
+}
+
 bool IsOpen(const Workspace& open, platform::BSTR workspace) {
   return open.IsOpen() && platform::BstrText(workspace) == open.name;
 }
@@ -86,14 +92,13 @@ platform::Status PathService::GetConfigurationDirectory(platform::BSTR workspace
                                                         platform::BSTR* directory) {
   if (!Enter("GetConfigurationDirectory", workspace, project, configuration)) return platform::E_FAIL;
   return GiveIf(IsOpen(workspace_, workspace, project, configuration),
-                workspace_.directory + '\\' + workspace_.project + '\\' + workspace_.configuration,
-                directory);
+                Below(Below(workspace_.directory, workspace_.project), workspace_.configuration), directory);
 }
 
 platform::Status PathService::GetProjectDirectory(platform::BSTR workspace, platform::BSTR project,
                                                   platform::BSTR* directory) {
   if (!Enter("GetProjectDirectory", workspace, project)) return platform::E_FAIL;
-  return GiveIf(IsOpen(workspace_, workspace, project), workspace_.directory + '\\' + workspace_.project,
+  return GiveIf(IsOpen(workspace_, workspace, project), Below(workspace_.directory, workspace_.project),
                 directory);
 }
 

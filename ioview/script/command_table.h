@@ -1,6 +1,7 @@
 // Every command of the script language: its name, its form, and what carries it out.
 #pragma once
 
+#include <array>
 #include <span>
 #include <string_view>
 
@@ -37,6 +38,8 @@ std::span<const ScriptCommand> EditCommands();
 std::span<const ScriptCommand> PictureCommands();
 std::span<const ScriptCommand> AnswerCommands();
 std::span<const ScriptCommand> CheckCommands();
+
+std::array<std::span<const ScriptCommand>, 12> AllCommands();
 
 // Null for a name that isn't known.
 const ScriptCommand* FindCommand(std::string_view name);

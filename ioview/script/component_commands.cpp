@@ -79,6 +79,7 @@ void RunOrSay(ScriptRun& run, std::uint32_t command, platform::HWND window) {
 }
 
 void Open(ScriptRun& run, Arguments& arguments) {
+  arguments.End();
   RunOrSay(run, kOpenViewCommand, TargetOf(run, kOpenViewCommand, arguments));
 }
 

@@ -195,6 +195,7 @@ DialogAct ClickHeader(Arguments& words) {
     for (CWnd* const control : dialog.GetChildren()) {
       auto* const grid = dynamic_cast<SECTreeCtrl*>(control);
       if (grid == nullptr || !grid->IsHeaderShown()) continue;
+      if (column >= static_cast<std::uint32_t>(grid->GetColumnCount())) continue;
       int left = -grid->GetScrollPos(false);
       for (int before = 0; before < static_cast<int>(column); ++before) left += grid->GetColumnWidth(before);
       const int width = grid->GetColumnWidth(static_cast<int>(column));

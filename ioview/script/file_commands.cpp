@@ -21,6 +21,9 @@ void Require(const std::error_code& error, const std::string& file) {
 }
 
 void Write(const std::string& file, std::string_view text) {
+  std::error_code unknown;
+  // Opening a pipe would wait for its other end.
+  if (fs::is_fifo(file, unknown)) throw ScriptError(OneLine(file) + ": Not a regular file");
   std::ofstream out(file, std::ios::binary | std::ios::trunc);
   out.write(text.data(), static_cast<std::streamsize>(text.size()));
   out.close();

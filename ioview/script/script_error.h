@@ -19,4 +19,6 @@ class ScriptError : public std::runtime_error {
   const int status;
 };
 
+inline constexpr const char* kLostInput = "the script can't be read on";
+
 }  // namespace ioview

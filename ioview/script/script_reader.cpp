@@ -69,10 +69,23 @@ std::vector<ScriptWord> SplitWords(std::string_view line, bool steps) {
   return words;
 }
 
+bool ScriptReader::ReadLine(std::string& line) {
+  line.clear();
+  bool any = false;
+  for (char c = 0; in_.get(c);) {
+    if (!any) ++number_;
+    any = true;
+    if (c == '\n') return true;
+    if (line.size() == kLongestLine) throw ScriptError("the line is longer than 16 MiB");
+    line += c;
+  }
+  if (in_.bad()) throw ScriptError(kLostInput);
+  return any;
+}
+
 std::optional<ScriptLine> ScriptReader::Next() {
   std::string text;
-  while (std::getline(in_, text)) {
-    ++number_;
+  while (ReadLine(text)) {
     std::string_view line = text;
     if (number_ == 1 && line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
     if (line.ends_with('\r')) line.remove_suffix(1);

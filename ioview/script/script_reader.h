@@ -32,14 +32,19 @@ struct ScriptLine {
 // Reads no further than asked for, so that a script may come from a program that waits for the answers.
 class ScriptReader {
  public:
+  static constexpr std::size_t kLongestLine = std::size_t{16} << 20;  // bytes
+
   explicit ScriptReader(std::istream& in) : in_(in) {}
   // The next line with words; those of an `answer` are cut into steps. Nothing at the end. Throws ScriptError
-  // as SplitWords; the line counts as read then.
+  // as SplitWords, for a line longer than kLongestLine, and when reading fails; the line counts as read then.
   std::optional<ScriptLine> Next();
   // Of the line that was read last.
   std::size_t LineNumber() const { return number_; }
 
  private:
+  // False at the end.
+  bool ReadLine(std::string& line);
+
   std::istream& in_;
   std::size_t number_ = 0;
 };

@@ -23,7 +23,7 @@ bool Prepares(const ScriptCommand& command, const Arguments& arguments) {
 void RunLine(ScriptRun& run, const ScriptLine& line) {
   const std::string& name = line.words.front().text;
   const ScriptCommand* const command = FindCommand(name);
-  if (command == nullptr) throw ScriptError(Quoted(name) + " is no command");
+  if (command == nullptr) throw ScriptError(Quoted(name) + " is no command; ioview script --help lists them");
   Arguments arguments(std::span(line.words).subspan(1));
   if (!Prepares(*command, arguments)) run.Start();
   if (!command->checks && !command->keeps_answers) run.out.BeginCommand();
@@ -45,6 +45,7 @@ int RunLines(ScriptRun& run, ScriptReader& reader, const ScriptOptions& options)
   try {
     while (const std::optional<ScriptLine> line = reader.Next()) RunLine(run, *line);
     run.EndCommand(false);
+    if (options.file == "-" && std::ferror(stdin) != 0) throw ScriptError(kLostInput);
   } catch (const ScriptError& error) {
     return Report(options, reader.LineNumber(), error.status, error.what());
   } catch (const ProgramError& error) {

@@ -55,9 +55,10 @@ Json ReadJsonFile(const std::string& native) {
   Json json;
   try {
     json = Json::parse(bytes);
-  } catch (const Json::exception& error) {
-    const auto* place = dynamic_cast<const Json::parse_error*>(&error);
-    const std::size_t end = std::min(place != nullptr ? place->byte : 0, bytes.size());
+  } catch (const Json::out_of_range&) {
+    throw FileFault("it holds a number beyond all bounds");
+  } catch (const Json::parse_error& error) {
+    const std::size_t end = std::min(error.byte, bytes.size());
     const auto line_feeds = std::count(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(end), '\n');
     throw FileFault("it isn't JSON from line " + std::to_string(line_feeds + 1) + " on");
   }
@@ -66,6 +67,8 @@ Json ReadJsonFile(const std::string& native) {
 }
 
 std::optional<std::string> KeepAside(const std::string& native) {
+  std::error_code unknown;
+  if (!fs::is_regular_file(native, unknown)) return std::nullopt;
   for (int count = 1; count <= kMostAside; ++count) {
     const std::string aside = native + ".bad" + (count > 1 ? std::to_string(count) : "");
     std::error_code error;
@@ -76,20 +79,24 @@ std::optional<std::string> KeepAside(const std::string& native) {
   return std::nullopt;
 }
 
-bool WriteJsonFile(const std::string& native, Json object, bool (*is_ours)(std::string_view name),
-                   std::string& why) {
+bool WriteJsonFile(const std::string& native, Json object, const FileShape& shape, std::string& why) {
+  std::optional<std::string> aside;
   const auto fail = [&](const std::string& reason) {
-    why = OneLine(native) + " can't be written: " + reason;
+    why = FileWord(native) + " can't be written: " + reason;
+    std::error_code ignored;
+    if (aside) fs::rename(*aside, native, ignored);
     return false;
   };
   if (native.empty()) return fail("it has no place");
   try {
     const Json there = ReadJsonFile(native);
+    shape.check(there);
     for (const auto& [name, value] : there.items()) {
-      if (!is_ours(name)) object[name] = value;
+      if (!shape.is_ours(name)) object[name] = value;
     }
   } catch (const FileFault& fault) {
-    if (!KeepAside(native)) {
+    aside = KeepAside(native);
+    if (!aside) {
       return fail("what is there can't be used, " + std::string(fault.what()) + ", and can't be kept aside");
     }
   }

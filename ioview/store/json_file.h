@@ -43,13 +43,18 @@ inline constexpr int kDeepestNesting = 64;
 Json ReadJsonFile(const std::string& native);
 
 // Renames the file to a name that isn't taken, NAME.bad, NAME.bad2, ... and gives that; nothing when it can't
-// be renamed.
+// be renamed. A directory, a pipe or a device stays where it is.
 std::optional<std::string> KeepAside(const std::string& native);
 
-// Makes `object` the content of the file, and its folder if need be. Members of the file there whose names
-// `is_ours` doesn't know stay, behind the others; a file that can't be used is kept aside first. When false,
-// `why` is a sentence and the file is what it was.
-bool WriteJsonFile(const std::string& native, Json object, bool (*is_ours)(std::string_view name),
-                   std::string& why);
+// What a store makes of its file.
+struct FileShape {
+  bool (*is_ours)(std::string_view name);  // of a member of the object
+  void (*check)(const Json& object);       // throws FileFault for an object that the store can't use
+};
+
+// Makes `object` the content of the file, and its folder if need be. Members of the file there that aren't
+// the store's stay, behind the others; a file that can't be used is kept aside first. When false, `why` is a
+// sentence and the file is what it was.
+bool WriteJsonFile(const std::string& native, Json object, const FileShape& shape, std::string& why);
 
 }  // namespace ioview

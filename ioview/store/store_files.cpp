@@ -24,13 +24,6 @@ constexpr char kSettings[] = "settings";
 constexpr char kPlaceholders[] = "placeholders";
 constexpr char kWindow[] = "window";
 
-bool IsOfSession(std::string_view name) {
-  return name == kSessions;
-}
-bool IsOfSettings(std::string_view name) {
-  return name == kSettings || name == kPlaceholders || name == kWindow;
-}
-
 FileFault WrongMember(const std::string& name, const char* what) {
   return FileFault("a member \"" + name + "\" is " + what);
 }
@@ -134,6 +127,15 @@ SettingsContents SettingsOf(const Json& file) {
   return contents;
 }
 
+constexpr FileShape kSessionShape = {
+    [](std::string_view name) { return name == kSessions; },
+    [](const Json& file) { static_cast<void>(SessionsOf(file)); },
+};
+constexpr FileShape kSettingsShape = {
+    [](std::string_view name) { return name == kSettings || name == kPlaceholders || name == kWindow; },
+    [](const Json& file) { static_cast<void>(SettingsOf(file)); },
+};
+
 // What `read` makes of the file; the empty store, and a note, when it can't be used.
 template <typename Store>
 Store Load(const std::string& path, Store (*read)(const Json&), LoadNotes& notes) {
@@ -192,7 +194,7 @@ bool SaveSessionFile(const std::string& path, const SessionValues& values, std::
   }
   Json file = Json::object();
   file[kSessions] = std::move(sessions);
-  return WriteJsonFile(path, std::move(file), IsOfSession, why);
+  return WriteJsonFile(path, std::move(file), kSessionShape, why);
 }
 
 SettingsContents LoadSettingsFile(const std::string& path, LoadNotes& notes) {
@@ -224,7 +226,7 @@ bool SaveSettingsFile(const std::string& path, const SettingsContents& contents,
   file[kSettings] = std::move(settings);
   file[kPlaceholders] = std::move(placeholders);
   if (!contents.window_layout.empty()) file[kWindow] = DigitsOf(contents.window_layout);
-  return WriteJsonFile(path, std::move(file), IsOfSettings, why);
+  return WriteJsonFile(path, std::move(file), kSettingsShape, why);
 }
 
 }  // namespace ioview

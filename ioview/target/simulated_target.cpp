@@ -1,6 +1,7 @@
 #include "ioview/target/simulated_target.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "ioview/statuses.h"
@@ -94,15 +95,23 @@ platform::Status SimulatedTarget::WriteNumber(std::uint32_t first, std::uint32_t
 
 void SimulatedTarget::LogAccesses(bool on) {
   logging_ = on;
-  if (!on) accesses_.clear();
+  if (!on) TakeAccesses();
 }
 
 std::vector<Access> SimulatedTarget::TakeAccesses() {
-  return std::exchange(accesses_, {});
+  logged_bytes_ = 0;
+  std::deque<Access> taken = std::exchange(accesses_, {});
+  return {std::move_iterator(taken.begin()), std::move_iterator(taken.end())};
 }
 
 void SimulatedTarget::Log(Access access) {
-  if (logging_) accesses_.push_back(std::move(access));
+  if (!logging_) return;
+  logged_bytes_ += access.bytes.size();
+  accesses_.push_back(std::move(access));
+  while (accesses_.size() > kMostAccesses || logged_bytes_ > kMostLoggedBytes) {
+    logged_bytes_ -= accesses_.front().bytes.size();
+    accesses_.pop_front();
+  }
 }
 
 }  // namespace ioview

@@ -2,7 +2,9 @@
 // and a log of what the component did.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <optional>
 #include <span>
 #include <vector>
@@ -18,6 +20,9 @@ class SimulatedTarget {
  public:
   // The longest range that one access of the component may cover, in bytes.
   static constexpr std::uint64_t kLongestAccess = 16u << 20;
+  // What the log keeps when nobody takes it; older accesses are dropped then.
+  static constexpr std::size_t kMostAccesses = 1'000'000;
+  static constexpr std::size_t kMostLoggedBytes = std::size_t{64} << 20;  // of their values
 
   // What somebody beside the component does to the memory: never logged, never failing on request. False,
   // and nothing done, when the range would go past address FFFFFFFF.
@@ -57,7 +62,8 @@ class SimulatedTarget {
   platform::Status read_failure_ = platform::S_OK;
   platform::Status write_failure_ = platform::S_OK;
   bool logging_ = false;
-  std::vector<Access> accesses_;
+  std::deque<Access> accesses_;
+  std::size_t logged_bytes_ = 0;
 };
 
 }  // namespace ioview

@@ -1,8 +1,11 @@
 #include "ioview/test/snapshot_text.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdio>
+#include <span>
 
+#include "ioview/number_text.h"
 #include "platform/base/text.h"
 
 namespace ioview {
@@ -13,7 +16,9 @@ constexpr char kSeparator = '&';
 constexpr char kEscape = '\\';
 constexpr std::string_view kVersion = "1.0";
 constexpr std::size_t kFlagItem = 2;
+constexpr std::size_t kCountItem = 3;
 constexpr std::size_t kFirstRegister = 4;
+constexpr std::ptrdiff_t kBlanksOfRegister = 3;
 
 }  // namespace
 
@@ -69,7 +74,12 @@ std::vector<std::string> SnapshotNames(std::string_view text) {
 
 bool IsSnapshot(std::string_view text) {
   const std::vector<std::string> items = SplitItems(text);
-  return items.size() >= kFirstRegister && items.front() == kVersion;
+  if (items.size() < kFirstRegister || items.front() != kVersion) return false;
+  const std::span registers = std::span(items).subspan(kFirstRegister);
+  return ParseDigits(items[kCountItem], 16) == registers.size() &&
+         std::ranges::all_of(registers, [](const std::string& item) {
+           return std::ranges::count(item, ' ') >= kBlanksOfRegister && !item.ends_with(' ');
+         });
 }
 
 std::string IgnoringAddresses(std::string_view text) {

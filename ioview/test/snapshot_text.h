@@ -16,7 +16,8 @@ std::string JoinItems(const std::vector<std::string>& items);
 std::string SnapshotRequest(const std::vector<std::string>& names);
 // The names of the registers in a snapshot, in its order.
 std::vector<std::string> SnapshotNames(std::string_view text);
-// False for a text that is no snapshot: fewer than four items, or another first one.
+// False for a text that is no snapshot or has been cut off: fewer than four items, another first one, or not
+// as many registers with their four words (name, address, size, value) as the fourth item says.
 bool IsSnapshot(std::string_view text);
 // The snapshot with its flag set.
 std::string IgnoringAddresses(std::string_view text);

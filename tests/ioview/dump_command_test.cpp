@@ -82,6 +82,9 @@ TEST_F(DumpCommand, RefusesFilesThatCannotBeOpened) {
   ASSERT_EQ(mkfifo(dir_.Native("pipe").c_str(), 0600), 0);  // nobody will write to it
   dir_.Write("back\\slash.io", kDevice);
   dir_.Write("\u65E5.io", kDevice);
+  // The system's own path functions would take both for other files.
+  const std::string long_name(250, 'n');
+  for (const std::string& name : {std::string("dots. ."), long_name}) dir_.Write(name, kDevice);
   dir_.Write("huge.io", "");
   std::filesystem::resize_file(dir_.Native("huge.io"), (std::uintmax_t{1} << 30) + 1);
   const std::pair<std::string, std::string> cases[] = {
@@ -94,6 +97,9 @@ TEST_F(DumpCommand, RefusesFilesThatCannotBeOpened) {
       {"device.io/x", "device.io/x: Not a directory"},
       {"huge.io", "huge.io: Larger than 1 GiB"},
       {"back\\slash.io", "back\\slash.io: A path with a backslash in a name can't be opened"},
+      {"dots. .", "dots. .: A path with a name that ends in a dot or a blank can't be opened"},
+      {long_name, long_name + ": Its path is too long: more than 259 bytes in the code page"},
+      {"device.io|--workspace=", "'': There is no such directory"},
       {"\u65E5.io|--codepage|1252", "\u65E5.io: Its path has a character that code page 1252 lacks"},
   };
   for (const auto& [arguments, error] : cases) {
@@ -109,7 +115,7 @@ TEST_F(DumpCommand, SaysThatItsOutputIsLost) {
 }
 
 TEST_F(DumpCommand, TakesFilesAndSelectionsOfAnyNameAsTheyStand) {
-  for (const std::string name : {"-x", "dump", " dots. .", "$(CONFIGDIR)", "\u00E4\u65E5.io"}) {
+  for (const std::string name : {"-x", "dump", " .dots", "$(CONFIGDIR)", "\u00E4\u65E5.io"}) {
     dir_.Write(name, kDevice);
 
     const Outcome outcome = Dump({"--open", "none", "--", name});

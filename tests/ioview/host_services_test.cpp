@@ -203,6 +203,10 @@ TEST_F(HostServicesTest, ADirectoryIsThatOfTheOpenWorkspaceOnly) {
             platform::E_FAIL);
   EXPECT_EQ(text.Get(), nullptr);
 
+  host.workspace.directory = "c:\\";
+  host.paths.GetConfigurationDirectory(shop.Get(), lamp.Get(), debug.Get(), text.Receive());
+  EXPECT_EQ(text.Text(), "c:\\lamp\\Debug");
+
   host.workspace = {};
   EXPECT_EQ(host.paths.IsWorkspaceOpen(&open), platform::S_OK);
   EXPECT_EQ(open, 0u);

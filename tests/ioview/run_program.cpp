@@ -19,8 +19,10 @@ constexpr int kNoStart = 127;
 
 // In the child: gets no more than its arguments, and comes back only when the program can't be started.
 void Become(std::vector<char*>& argv, const RunOptions& options, const char* out, const char* err) {
+  const int in_file = open(options.input.c_str(), O_RDONLY);
   const int out_file = open(out, O_WRONLY | O_CREAT, 0600);
   const int err_file = open(err, O_WRONLY | O_CREAT, 0600);
+  if (in_file < 0 || dup2(in_file, 0) < 0) return;
   if (out_file < 0 || err_file < 0 || dup2(out_file, 1) < 0 || dup2(err_file, 2) < 0) return;
   if (!options.directory.empty() && chdir(options.directory.c_str()) != 0) return;
   alarm(kLongestRun);

@@ -16,6 +16,7 @@ struct Outcome {
 struct RunOptions {
   std::filesystem::path directory = {};  // to run in; empty: this one
   std::string output = {};               // a file in place of the collected standard output
+  std::string input = "/dev/null";       // what standard input is opened on
 };
 
 // A run of more than two minutes is ended by a signal.

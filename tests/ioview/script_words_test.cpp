@@ -56,6 +56,15 @@ TEST(ScriptWords, LinesCountFromOneWithCommentsAndLineEndsOfEitherKind) {
   EXPECT_FALSE(reader.Next());
 }
 
+TEST(ScriptWords, ALineWithoutAnEndFillsNoMemory) {
+  std::istringstream text("echo x\n" + std::string(ScriptReader::kLongestLine, ' ') + "\n# " +
+                          std::string(ScriptReader::kLongestLine, 'x'));
+  ScriptReader reader(text);
+  EXPECT_TRUE(reader.Next());
+  EXPECT_THROW(reader.Next(), ScriptError);
+  EXPECT_EQ(reader.LineNumber(), 3u);
+}
+
 TEST(RowPaths, LeadToTheFirstRowThatFitsAllNames) {
   platform::SECTreeCtrl grid;
   const auto first = grid.InsertItem("PORT", -1);

@@ -116,6 +116,24 @@ TEST_F(SimulatedTargetTest, RefusesRangesThatMakeNoSense) {
   EXPECT_THAT(all.back(), 0);
 }
 
+TEST_F(SimulatedTargetTest, ForgetsTheOldestAccessesThatNobodyTakes) {
+  target_.LogAccesses(true);
+  const Bytes most(SimulatedTarget::kLongestAccess);
+  const auto last = static_cast<std::uint32_t>(most.size() - 1);
+  const std::size_t kept = SimulatedTarget::kMostLoggedBytes / most.size();
+  Bytes byte(1);
+  memory_.ReadDirect(7, 7, 1, byte.data());
+  for (std::size_t i = 0; i < kept; ++i) memory_.WriteMemory(0, last, 1, most.data());
+  EXPECT_EQ(target_.TakeAccesses().size(), kept + 1);
+
+  for (std::size_t i = 0; i < kept + 1; ++i) memory_.WriteMemory(0, last, 1, most.data());
+  EXPECT_EQ(target_.TakeAccesses().size(), kept);
+  for (std::size_t i = 0; i <= SimulatedTarget::kMostAccesses; ++i) {
+    memory_.ReadDirect(7, 7, 1, byte.data());
+  }
+  EXPECT_EQ(target_.TakeAccesses().size(), SimulatedTarget::kMostAccesses);
+}
+
 TEST_F(SimulatedTargetTest, FailsOnRequestAndLogsWhatWasTried) {
   Bytes byte = {0xAB};
   memory_.WriteMemory(0x10, 0x10, 1, byte.data());

@@ -119,6 +119,7 @@ TEST_F(StoreFiles, ABadFileIsKeptAsideAndTheStoreStartsEmpty) {
       {"empty", "", "it isn't JSON"},
       {"not UTF-8", "{\"sessions\": \"\xFF\"}", "it isn't JSON"},
       {"a lone surrogate", R"({"sessions": "\ud800"})", "it isn't JSON"},
+      {"a number that no double holds", "{\"x\": 1e999}", "a number beyond all bounds"},
       {"a list", "[]", "it holds no object"},
       {"nested without end", deep, "nested too deeply"},
       {"nested below a member of others", "{\"x\":" + deep.substr(0, 64) + std::string(64, ']') + "}",
@@ -143,11 +144,12 @@ TEST_F(StoreFiles, ABadFileIsKeptAsideAndTheStoreStartsEmpty) {
     EXPECT_FALSE(fs::exists(path));
     EXPECT_EQ(Content(aside), cases[i].content);
   }
-  // So is something that is no file at all.
+  // What is no file at all isn't the program's to move: the user named the wrong thing.
   fs::create_directory(path);
-  LoadSessionFile(path, notes_);
-  EXPECT_THAT(notes_.lines.back(), HasSubstr("it can't be read"));
-  EXPECT_FALSE(fs::exists(path));
+  EXPECT_TRUE(LoadSessionFile(path, notes_).AllNames().empty());
+  EXPECT_THAT(notes_.lines.back(), HasSubstr("It can't be kept aside, so nothing will be stored"));
+  EXPECT_FALSE(SaveSessionFile(path, {}, why_));
+  EXPECT_TRUE(fs::is_directory(path));
 }
 
 TEST_F(StoreFiles, SettingsOfAnotherShapeAreKeptAside) {
@@ -180,6 +182,17 @@ TEST_F(StoreFiles, WhatCannotBeWrittenStaysAsItWas) {
   values.Set({}, u"k", u"v");
   EXPECT_TRUE(SaveSessionFile(Native("session.json"), values, why_));
   EXPECT_EQ(Content("session.json.bad"), "{,}");
+  dir_.Write("session.json", R"({"sessions": "mine"})");
+  EXPECT_TRUE(SaveSessionFile(Native("session.json"), values, why_));
+  EXPECT_EQ(Content("session.json.bad2"), R"({"sessions": "mine"})");
+
+  // Nothing is left aside when nothing comes in its place.
+  SessionValues large;
+  large.Set({}, u"k", std::u16string(std::size_t{65} << 20, u'x'));
+  dir_.Write("large.json", "{,}");
+  EXPECT_FALSE(SaveSessionFile(Native("large.json"), large, why_));
+  EXPECT_THAT(why_, HasSubstr("larger than 64 MiB"));
+  EXPECT_EQ(Content("large.json"), "{,}");
 
   const std::string before = Content("session.json");
   fs::permissions(Native("session.json"), fs::perms::owner_read);
