@@ -43,6 +43,7 @@ MainWindow::MainWindow(Instance& instance, Program program)
     : instance_(instance),
       program_(std::move(program)),
       target_(instance),
+      tests_(instance, *this),
       binder_(instance.host.ui, [this] { SyncLater(); }),
       keys_(instance.host.ui,
             [this](const HostUi::KeyCommand& command) { binder_.Run(command.command, command.target); }),
@@ -293,7 +294,7 @@ void MainWindow::SyncBars() {
 
 void MainWindow::RefreshStates() {
   binder_.Refresh();
-  for (const TargetAction& action : target_actions_) action.action->setEnabled(action.can());
+  for (const OwnAction& action : own_actions_) action.action->setEnabled(action.can());
   demo_->setChecked(target_.demo.IsOn());
   target_state_->setText(QStringLiteral("Target: ") + ToQt(target_.StateText()));
   const DockWindow* const view = instance_.View();

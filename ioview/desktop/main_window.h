@@ -16,6 +16,7 @@
 #include "ioview/desktop/dock_frame.h"
 #include "ioview/desktop/key_filter.h"
 #include "ioview/desktop/target_control.h"
+#include "ioview/desktop/test_commands.h"
 #include "ioview/desktop/window_layout.h"
 #include "ioview/ui/host_ui.h"
 
@@ -74,6 +75,7 @@ class MainWindow final : public QMainWindow, public UiObserver {
   void MakeFileMenu(QMenu& menu);
   void MakeViewMenu(QMenu& menu);
   void MakeDebugMenu(QMenu& menu);
+  void MakeTestMenu(QMenu& menu);
   void MakeHelpMenu(QMenu& menu);
   void FillWindowEntries();
   DockFrame* FrameOf(const DockWindow& dock) const;
@@ -92,6 +94,7 @@ class MainWindow final : public QMainWindow, public UiObserver {
   Instance& instance_;
   const Program program_;
   TargetControl target_;
+  TestCommands tests_;
   CommandBinder binder_;
   std::unique_ptr<ComponentMenus> menus_;
   KeyFilter keys_;
@@ -104,11 +107,12 @@ class MainWindow final : public QMainWindow, public UiObserver {
   QMenu* windows_ = nullptr;
   QToolBar* target_bar_;
   QLabel* target_state_;
-  struct TargetAction {
+  // The host's own entries that a state of target or component enables.
+  struct OwnAction {
     QAction* action;
     std::function<bool()> can;
   };
-  std::vector<TargetAction> target_actions_;
+  std::vector<OwnAction> own_actions_;
   struct Bar {
     std::string identity;
     QToolBar* bar;

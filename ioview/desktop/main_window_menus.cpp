@@ -67,6 +67,7 @@ void MainWindow::MakeMenus() {
   pane_menu_ = menuBar()->addMenu(QStringLiteral("&Register"));
   connect(pane_menu_, &QMenu::aboutToShow, this, [this] { menus_->FillPaneMenu(*pane_menu_); });
   MakeDebugMenu(*menuBar()->addMenu(QStringLiteral("&Debug")));
+  MakeTestMenu(*menuBar()->addMenu(QStringLiteral("&Test")));
   QMenu* const help = menuBar()->addMenu(QStringLiteral("&Help"));
   MakeHelpMenu(*help);
   menus_->SetEnd(help->menuAction());
@@ -136,12 +137,31 @@ void MainWindow::MakeDebugMenu(QMenu& menu) {
       RefreshStates();
     });
     target_bar_->addAction(action);
-    target_actions_.push_back({action, [this, can = entry.can] { return can(target_); }});
+    own_actions_.push_back({action, [this, can = entry.can] { return can(target_); }});
   }
   menu.addSeparator();
   demo_ = AddEntry(menu, "Target &Memory Moves", "Let registers change by themselves at each step");
   demo_->setCheckable(true);
   connect(demo_, &QAction::triggered, this, [this](bool on) { target_.demo.Switch(on); });
+}
+
+// Registers are read from a target that stands still.
+void MainWindow::MakeTestMenu(QMenu& menu) {
+  const auto add = [&](const char* text, const char* tip, void (TestCommands::*run)(), bool reads) {
+    QAction* const action = AddEntry(menu, text, tip);
+    connect(action, &QAction::triggered, this, [this, run] {
+      Guarded([&] { (tests_.*run)(); });
+      SyncLater();
+    });
+    own_actions_.push_back(
+        {action, [this, reads] { return tests_.CanTest() && (!reads || target_.IsStopped()); }});
+  };
+  add("Choose &Registers...", "Choose the registers that are captured", &TestCommands::ChooseRegisters,
+      false);
+  menu.addSeparator();
+  add("&Capture...", "Read the chosen registers and write them to a file", &TestCommands::Capture, true);
+  add("C&ompare...", "Show what differs between the target and a captured file", &TestCommands::Compare,
+      true);
 }
 
 void MainWindow::MakeHelpMenu(QMenu& menu) {

@@ -4,6 +4,7 @@
 #include <QtGui/qevent.h>
 #include <QtGui/qicon.h>
 #include <QtGui/qimage.h>
+#include <QtGui/qpalette.h>
 #include <QtGui/qpixmap.h>
 #include <QtWidgets/qcheckbox.h>
 #include <QtWidgets/qcombobox.h>
@@ -86,7 +87,13 @@ EditPeer::EditPeer(CWnd& owner, QWidget* parent) : WidgetPeer(owner), m_line(new
     m_line->setFrame(false);
     m_line->setTextMargins(2, 0, 0, 0);
   }
-  m_line->setReadOnly(static_cast<CEdit&>(owner).IsReadOnly());
+  if (static_cast<CEdit&>(owner).IsReadOnly()) {
+    // Like what can't be typed into.
+    m_line->setReadOnly(true);
+    QPalette palette = m_line->palette();
+    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+    m_line->setPalette(palette);
+  }
   const auto report = [this](bool edited) {
     if (m_quiet || window == nullptr) return;
     Guarded([&] { Report(static_cast<CEdit&>(*window), *m_line, edited); });

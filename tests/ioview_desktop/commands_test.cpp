@@ -21,13 +21,11 @@
 namespace ioview::test {
 namespace {
 
-constexpr std::uint32_t kRefresh = 32817, kLock = 32826, kLoad = 32773, kFind = 32820, kFindNext = 32821,
-                        kPrint = 32771;
+constexpr std::uint32_t kRefresh = 32817, kLock = 32826;
 
 class Commands : public DesktopStage {
  protected:
   Commands() { Start(); }
-  void Poke(std::uint32_t address, std::uint8_t byte) { Host().target.Poke(address, {&byte, 1}); }
   bool IsRunning() { return Host().session.IsTargetRunning() == platform::S_OK; }
 };
 
@@ -126,28 +124,6 @@ TEST_F(Commands, ThePanesCommandsRunByMenuToolbarAndContextMenu) {
   EXPECT_EQ(Component().View()->dock_state, DockWindow::kFloating);
   Window().ViewFrame()->setFloating(false);
   EXPECT_EQ(Component().View()->dock_state, DockWindow::kDocked) << "the user's own docking counts";
-}
-
-TEST_F(Commands, DialogsOfThePaneOpenFromTheDesktop) {
-  struct Row {
-    std::uint32_t command;
-    const char* title;
-  };
-  for (const Row& row : {Row{kLoad, "Set I/O File"}, Row{kFind, "Find"}, Row{32819, "Select IO Register"}}) {
-    InNextDialog([&](QWidget& dialog) {
-      EXPECT_EQ(dialog.windowTitle().toStdString(), row.title);
-      dialog.close();
-    });
-    ASSERT_TRUE(Click(PaneBar(), row.command)) << row.title;
-    EXPECT_TRUE(Answered()) << row.title;
-  }
-  InNextDialog([](QWidget& dialog) {
-    EXPECT_NE(dynamic_cast<QFileDialog*>(&dialog), nullptr);
-    dialog.close();
-  });
-  ASSERT_TRUE(Menu("Register|Save To File..."));
-  InNextDialog([](QWidget& dialog) { dialog.close(); });
-  ASSERT_TRUE(Click(PaneBar(), kPrint));
 }
 
 TEST_F(Commands, RegisteredKeysWorkAheadOfTheFocusButNotInAnEdit) {

@@ -1,15 +1,19 @@
 #include "tests/ioview_desktop/desktop_stage.h"
 
 #include <QtCore/qelapsedtimer.h>
+#include <QtCore/qpointer.h>
 #include <QtCore/qtimer.h>
 #include <QtGui/qaction.h>
+#include <QtGui/qevent.h>
 #include <QtGui/qimage.h>
 #include <QtGui/qpixmap.h>
 #include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestmouse.h>
 #include <QtWidgets/qapplication.h>
+#include <QtWidgets/qlineedit.h>
 #include <QtWidgets/qmenu.h>
 #include <QtWidgets/qmenubar.h>
+#include <QtWidgets/qmessagebox.h>
 #include <QtWidgets/qtoolbar.h>
 
 #include <filesystem>
@@ -193,6 +197,59 @@ void DesktopStage::ClickRow(const std::string& path, Qt::MouseButton button) {
   Settle();
 }
 
+namespace {
+
+QPoint MiddleOf(const platform::RECT& cell) {
+  return {cell.left + cell.Width() / 2, cell.top + cell.Height() / 2};
+}
+
+}  // namespace
+
+void DesktopStage::ClickCell(const std::string& path, int column) {
+  const QPoint at = MiddleOf(Grid().GetCellRect(Row(path), column));
+  QTest::mouseClick(platform::QtDisplay::WidgetOf(Grid()), Qt::LeftButton, {}, at);
+  Settle();
+}
+
+// As a screen sends it: the second press is another kind of event.
+void DesktopStage::DoubleClickCell(const std::string& path, int column) {
+  ClickCell(path, column);
+  const QPoint at = MiddleOf(Grid().GetCellRect(Row(path), column));
+  QWidget* const widget = platform::QtDisplay::WidgetOf(Grid());
+  QMouseEvent press(QEvent::MouseButtonDblClick, at, widget->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+                    {});
+  QCoreApplication::sendEvent(widget, &press);
+  QTest::mouseRelease(widget, Qt::LeftButton, {}, at);
+  Settle();
+}
+
+void DesktopStage::Type(const QString& text) {
+  for (const QChar c : text) {
+    if (QWidget* const focus = QApplication::focusWidget()) QTest::keyClicks(focus, QString(c));
+  }
+}
+
+void DesktopStage::NameFile(QWidget& dialog, const std::string& name) {
+  auto* const edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  if (edit == nullptr) return;
+  edit->setText(QString::fromStdString(workspace.Native(name).string()));
+  QTest::keyClick(edit, Qt::Key_Return);
+}
+
+int DesktopStage::Byte(std::uint32_t address) {
+  std::uint8_t byte = 0;
+  Host().target.Peek(address, {&byte, 1});
+  return byte;
+}
+
+void DesktopStage::TakeBox(std::string& text) {
+  InNextDialog([&text](QWidget& dialog) {
+    const auto* const box = dynamic_cast<QMessageBox*>(&dialog);
+    text = box != nullptr ? box->text().toStdString() : "no box";
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+}
+
 void DesktopStage::WaitFor(std::function<bool()> look) {
   ++answers_;
   auto* const timer = new QTimer(&here_);
@@ -209,9 +266,9 @@ void DesktopStage::WaitFor(std::function<bool()> look) {
 
 // A timer is silent in a loop that its own handler runs, so what the user does comes in a call of its own.
 void DesktopStage::InNextDialog(std::function<void(QWidget&)> act) {
-  WaitFor([act = std::move(act)] {
+  WaitFor([act = std::move(act), below = QPointer<QWidget>(QApplication::activeModalWidget())] {
     QWidget* const dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr || !dialog->isVisible()) return false;
+    if (dialog == nullptr || dialog == below || !dialog->isVisible()) return false;
     QTimer::singleShot(0, dialog, [act, dialog] { act(*dialog); });
     return true;
   });

@@ -41,6 +41,10 @@ class DesktopStage : public testing::Test {
   HostServices& Host() { return Component().host; }
   platform::SECTreeCtrl& Grid(PaneIndex pane = PaneIndex::kAll) { return *Component().Grid(pane); }
 
+  // What somebody else does to the target's memory, and what is in it.
+  void Poke(std::uint32_t address, std::uint8_t byte) { Host().target.Poke(address, {&byte, 1}); }
+  int Byte(std::uint32_t address);
+
   // By names from the module down, "PORT/PDATA"; 0 when there is none.
   platform::HTREEITEM Row(const std::string& path, PaneIndex pane = PaneIndex::kAll);
   void OpenRow(const std::string& path) { Grid().Expand(Row(path), platform::TVE_EXPAND); }
@@ -59,9 +63,19 @@ class DesktopStage : public testing::Test {
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
   // A click into a row's name, with either button.
   void ClickRow(const std::string& path, Qt::MouseButton button = Qt::LeftButton);
-  // What the user does in the next modal window; it must be closed by it. `Answered` says whether it came.
+  // Into the middle of a cell.
+  void ClickCell(const std::string& path, int column);
+  void DoubleClickCell(const std::string& path, int column);
+  // Keys to whatever has the keyboard; characters go one by one.
+  static void Type(const QString& text);
+  // Through Qt's file dialog that is up: the name is typed, a file of the workspace.
+  void NameFile(QWidget& dialog, const std::string& name);
+  // What the user does in the next modal window, over the one that is up now if there is one; it must be
+  // closed by it. `Answered` says whether it came.
   void InNextDialog(std::function<void(QWidget& dialog)> act);
   void InNextPopup(std::function<void(QMenu& menu)> act);
+  // Ends the next message box, and gives its text.
+  void TakeBox(std::string& text);
   bool Answered() const { return answers_ == 0; }
   static QString Bare(QString text);
 

@@ -43,13 +43,6 @@ void WriteAll(const fs::path& path, const std::string& text) {
 class Keeping : public DesktopStage {
  protected:
   fs::path SessionFile() { return SessionFileOf(workspace.Native().string()); }
-  // Ends the box that is up, and gives its text.
-  void TakeBox(std::string& text) {
-    InNextDialog([&text](QWidget& box) {
-      text = dynamic_cast<QMessageBox&>(box).text().toStdString();
-      QTest::keyClick(&box, Qt::Key_Return);
-    });
-  }
   static void PressButton(QWidget& dialog, QDialogButtonBox::StandardButton button) {
     QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
   }
