@@ -10,9 +10,9 @@ using platform::DialogItemKind;
 
 // RECT is left, top, right, bottom.
 constexpr platform::DialogItem kItems[] = {
-    {DialogItemKind::Label, 13022, "C&olumn:", {7, 9, 47, 17}},
+    {DialogItemKind::Label, 13022, "C&olumn:", {7, 10, 47, 18}},
     {DialogItemKind::ComboBox, 13013, "", {50, 7, 180, 21}, platform::CBS_DROPDOWNLIST},
-    {DialogItemKind::Label, 13023, "F&ind:", {7, 29, 47, 37}},
+    {DialogItemKind::Label, 13023, "F&ind:", {7, 30, 47, 38}},
     {DialogItemKind::Edit, 13014, "", {50, 27, 180, 41}},
     {DialogItemKind::CheckBox, 13015, "&Match whole word", {50, 46, 180, 60}},
     {DialogItemKind::Button, 13018, "&OK", {76, 69, 126, 83}, platform::BS_DEFPUSHBUTTON},

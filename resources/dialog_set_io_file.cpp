@@ -10,7 +10,7 @@ using platform::DialogItemKind;
 
 // RECT is left, top, right, bottom.
 constexpr platform::DialogItem kItems[] = {
-    {DialogItemKind::Label, 9010, "&I/O File:", {7, 9, 41, 17}},
+    {DialogItemKind::Label, 9010, "&I/O File:", {7, 10, 41, 18}},
     {DialogItemKind::Edit, 9001, "", {44, 7, 210, 21}},
     {DialogItemKind::Button, 20001, "RIGHTARROW", {213, 7, 229, 21}},
     {DialogItemKind::Button, 9002, "Browse&...", {235, 7, 285, 21}},

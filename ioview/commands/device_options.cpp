@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "ioview/component/open_definition.h"
 #include "ioview/component/open_workspace.h"
 #include "ioview/memory_file.h"
 #include "ioview/native_file.h"
@@ -13,12 +14,6 @@
 namespace ioview {
 
 namespace {
-
-constexpr std::string_view kDefinitionExtension = ".io";
-// A key of the component's session, with the identity that it stores under.
-constexpr std::string_view kDefinitionKey = "{F866DB60-6186-11D5-8BBE-0004E2013C71}IOCtrlIOFile";
-// Stands for FILE where its own name would be taken for one that has placeholders in it.
-constexpr const char* kFilePlaceholder = "IOVIEWFILE";
 
 void PrintNotes(const LoadNotes& notes) {
   for (const std::string& line : notes.lines) std::fprintf(stderr, "ioview: %s\n", OneLine(line).c_str());
@@ -68,7 +63,6 @@ void DeviceOptions::Prepare(HostServices& host) const {
   host.target.SetArea({0, 0xFFFFFFFF, order});
   if (memory) LoadMemoryFile(host.target, *memory);
   RequireReadableFile(file);
-  std::string path = DrivePathOf(file);
 
   host.workspace = OpenWorkspace(workspace.value_or("."));
   if (workspace) {
@@ -76,18 +70,7 @@ void DeviceOptions::Prepare(HostServices& host) const {
     host.session_values = LoadSessionFile(SessionFileOf(*workspace), notes);
     PrintNotes(notes);
   }
-  const SessionValues::Names names{platform::ToWide(host.workspace.name),
-                                   platform::ToWide(host.workspace.project),
-                                   platform::ToWide(host.workspace.configuration)};
-  const bool of_device = path.ends_with(kDefinitionExtension);
-  if (!of_device && path.find("$(") != std::string::npos) {
-    host.placeholders.SetGlobal({kFilePlaceholder, path, "The file of the command line"});
-    path = std::string("$(") + kFilePlaceholder + ")";
-  }
-  host.session_values.Set(names, platform::ToWide(kDefinitionKey),
-                          of_device ? std::u16string() : platform::ToWide(path));
-  if (of_device) path.resize(path.size() - kDefinitionExtension.size());
-  host.device.SetDefaultIOPath(path);
+  if (OfferDefinition(host, DrivePathOf(file))) ForgetDefinition(host);
 }
 
 }  // namespace ioview

@@ -9,6 +9,7 @@
 #include "ioview/commands/device_options.h"
 #include "ioview/component/headless_stage.h"
 #include "ioview/component/instance.h"
+#include "ioview/component/open_definition.h"
 #include "ioview/program_error.h"
 #include "ioview/standard_output.h"
 #include "platform/base/text.h"
@@ -108,10 +109,8 @@ void RunDump(const DumpArguments& arguments) {
   Instance instance(library, settings);
   arguments.device.Prepare(instance.host);
   if (!arguments.selection.empty()) {
-    const Workspace& workspace = instance.host.workspace;
-    instance.host.session_values.Set({platform::ToWide(workspace.name), platform::ToWide(workspace.project),
-                                      platform::ToWide(workspace.configuration)},
-                                     platform::ToWide(kSelectionKey), platform::ToWide(arguments.selection));
+    instance.host.session_values.Set(NamesOf(instance.host.workspace), platform::ToWide(kSelectionKey),
+                                     platform::ToWide(arguments.selection));
   }
   if (platform::Failed(instance.Start(true))) throw ProgramError("The component can't be connected");
   Instance::RunCommand(kOpenViewCommand, instance.Frame());

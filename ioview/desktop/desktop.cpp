@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "ioview/component/open_definition.h"
 #include "ioview/component/open_workspace.h"
 #include "ioview/native_file.h"
 #include "ioview/program_error.h"
@@ -18,28 +19,22 @@ namespace ioview {
 
 namespace {
 
-constexpr std::string_view kExtension = ".io";
-// The component's key of its definition file; the host's store has its identity in front of it.
-constexpr std::u16string_view kDefinitionKey = u"{F866DB60-6186-11D5-8BBE-0004E2013C71}IOCtrlIOFile";
-
 // For the user, and for whoever started the program.
 void Tell(const std::string& text) {
   std::fprintf(stderr, "ioview: %s\n", OneLine(text).c_str());
   platform::MessageBox(text, platform::MB_ICONEXCLAMATION);
 }
 
-bool IsDefinitionName(std::string_view path) {
-  return path.size() > kExtension.size() &&
-         platform::EqualNoCase(path.substr(path.size() - kExtension.size()), kExtension);
-}
-
 // A stored path with the workspace's directories in it, as far as this host has placeholders for them.
 std::string WithDirectories(std::string path, const Workspace& workspace) {
-  const std::string project = workspace.directory + '\\' + workspace.project;
+  const auto join = [](const std::string& directory, const std::string& name) {
+    return directory + (directory.ends_with('\\') ? "" : "\\") + name;
+  };
+  const std::string project = join(workspace.directory, workspace.project);
   const std::pair<std::string_view, std::string> directories[] = {
       {"$(WORKSPDIR)", workspace.directory},
       {"$(PROJDIR)", project},
-      {"$(CONFIGDIR)", project + '\\' + workspace.configuration},
+      {"$(CONFIGDIR)", join(project, workspace.configuration)},
   };
   for (const auto& [placeholder, directory] : directories) {
     if (path.starts_with(placeholder)) path.replace(0, placeholder.size(), directory);
@@ -95,15 +90,8 @@ Desktop::~Desktop() {
 
 bool Desktop::Open(bool demo) {
   HostServices& host = instance_.host;
-  std::string device = definition_;
-  if (IsDefinitionName(device)) {
-    device.resize(device.size() - kExtension.size());
-  } else {
-    // The component adds the extension to a device's path, and takes one of the session as it is.
-    host.session_values.Set(SessionNames(), kDefinitionKey, platform::ToWide(definition_));
-  }
-  host.device.SetDefaultIOPath(std::move(device));
-  const bool other = HasOtherDefinition();
+  const bool of_device = OfferDefinition(host, definition_);
+  const bool other = of_device && HasOtherDefinition();
 
   std::uint32_t base = 0;
   host.device.GetBaseAddress(&base);
@@ -147,16 +135,9 @@ bool Desktop::Open(bool demo) {
 }
 
 bool Desktop::HasOtherDefinition() const {
-  const std::u16string* const stored = instance_.host.session_values.Find(SessionNames(), kDefinitionKey);
-  if (stored == nullptr || stored->empty()) return false;
-  return !platform::EqualNoCase(WithDirectories(platform::FromWide(*stored), instance_.host.workspace),
-                                definition_);
-}
-
-SessionValues::Names Desktop::SessionNames() const {
-  const Workspace& workspace = instance_.host.workspace;
-  return {platform::ToWide(workspace.name), platform::ToWide(workspace.project),
-          platform::ToWide(workspace.configuration)};
+  const std::string stored = StoredDefinition(instance_.host);
+  return !stored.empty() &&
+         !platform::EqualNoCase(WithDirectories(stored, instance_.host.workspace), definition_);
 }
 
 // Saving -------------------------------------------------------------------------------------------------

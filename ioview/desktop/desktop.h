@@ -50,7 +50,6 @@ class Desktop {
   void SaveSession(bool always);
   void SaveSettings(bool of_window);
   std::string About() const;
-  SessionValues::Names SessionNames() const;
 
   const ComponentLibrary& library_;
   const Places places_;
