@@ -11,6 +11,7 @@
 #include <unordered_map>
 
 #include "benchmarks/device.h"
+#include "benchmarks/sizes.h"
 #include "host/host_ptr.h"
 #include "model/profile_text.h"
 #include "platform/base/files.h"
@@ -19,19 +20,6 @@
 namespace bench {
 
 namespace {
-
-int Version(const benchmark::State& state) {
-  return static_cast<int>(state.range(0));
-}
-int Registers(const benchmark::State& state) {
-  return static_cast<int>(state.range(1));
-}
-
-void CountRegisters(benchmark::State& state) {
-  state.counters["per_register"] =
-      benchmark::Counter(static_cast<double>(Registers(state)),
-                         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
-}
 
 // One hash index of sections and keys as the standard library makes it: views into the text, no copies, names
 // as they are written.
@@ -188,10 +176,7 @@ void ApplySelection(benchmark::State& state) {
 }
 
 void Sizes(benchmark::internal::Benchmark* run) {
-  run->ArgNames({"version", "registers"})->Unit(benchmark::kMillisecond)->MinWarmUpTime(0.2)->MinTime(0.4);
-  for (const int version : {1, 2, 3}) {
-    for (const int registers : {1000, 10000, 100000}) run->Args({version, registers});
-  }
+  AddSizes(run, {1, 2, 3});
 }
 
 // Definitions of about 60,000 lines.

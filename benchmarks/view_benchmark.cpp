@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "benchmarks/sizes.h"
 #include "benchmarks/view.h"
 #include "platform/headless/recording_dc.h"
 
@@ -11,18 +12,8 @@ namespace bench {
 
 namespace {
 
-int Registers(const benchmark::State& state) {
-  return static_cast<int>(state.range(1));
-}
-
-void CountRegisters(benchmark::State& state) {
-  state.counters["per_register"] =
-      benchmark::Counter(static_cast<double>(Registers(state)),
-                         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
-}
-
 Definition DefinitionOf(const benchmark::State& state) {
-  return Definition(static_cast<int>(state.range(0)), Registers(state));
+  return Definition(Version(state), Registers(state));
 }
 
 // Opens what is closed, and leaves a view with rows for every record.
@@ -150,10 +141,7 @@ void ViewTextDump(benchmark::State& state) {
 }
 
 void Sizes(benchmark::internal::Benchmark* run) {
-  run->ArgNames({"version", "registers"})->Unit(benchmark::kMillisecond)->MinWarmUpTime(0.2)->MinTime(0.4);
-  for (const int version : {1, 3}) {
-    for (const int registers : {1000, 10000, 100000}) run->Args({version, registers});
-  }
+  AddSizes(run, {1, 3});
 }
 
 BENCHMARK(ViewOpen)->Apply(Sizes);

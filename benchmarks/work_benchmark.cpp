@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "benchmarks/sizes.h"
 #include "benchmarks/view.h"
 #include "ioview/test/snapshot_text.h"
 #include "platform/base/bstr.h"
@@ -24,18 +25,8 @@ constexpr platform::UINT kCheckAll = 13016;
 // One register in so many is picked or captured.
 constexpr int kOneIn = 10;
 
-int Registers(const benchmark::State& state) {
-  return static_cast<int>(state.range(1));
-}
-
-void CountRegisters(benchmark::State& state) {
-  state.counters["per_register"] =
-      benchmark::Counter(static_cast<double>(Registers(state)),
-                         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
-}
-
 Definition DefinitionOf(const benchmark::State& state) {
-  return Definition(static_cast<int>(state.range(0)), Registers(state));
+  return Definition(Version(state), Registers(state));
 }
 
 // Names as the test client knows registers by: the generator makes no two alike.
@@ -126,10 +117,7 @@ void WorkCompare(benchmark::State& state) {
 }
 
 void Sizes(benchmark::internal::Benchmark* run) {
-  run->ArgNames({"version", "registers"})->Unit(benchmark::kMillisecond)->MinWarmUpTime(0.2)->MinTime(0.4);
-  for (const int version : {1, 3}) {
-    for (const int registers : {1000, 10000, 100000}) run->Args({version, registers});
-  }
+  AddSizes(run, {1, 3});
 }
 
 BENCHMARK(WorkFind)->Apply(Sizes);
