@@ -58,18 +58,6 @@ void World::SaveSession() {
   EXPECT_EQ(Sessions()->SaveSessionData(workspace.Get(), project.Get(), configuration.Get()), 0);
 }
 
-bool World::IsDirty() const {
-  std::uint32_t dirty = 77;
-  Sessions()->IsSessionDataDirty(nullptr, nullptr, nullptr, &dirty);
-  EXPECT_LE(dirty, 1u);
-  return dirty == 1;
-}
-
-std::string World::Kept(const std::string& key) const {
-  const auto found = host.session.find(kSession + key);
-  return found != host.session.end() ? found->second : "(none)";
-}
-
 void World::OpenView() {
   platform::SendMessage(host.Ui().SinkOf(kOpenView), platform::WM_COMMAND, kOpenView);
 }

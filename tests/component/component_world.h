@@ -78,10 +78,8 @@ class World {
 
   void LoadSession();
   void SaveSession();
-  bool IsDirty() const;
-  // Values of the session by the keys that the view gives.
+  // A value of the session by the key that the view gives.
   void Keep(const std::string& key, const std::string& value) { host.session[kSession + key] = value; }
-  std::string Kept(const std::string& key) const;
 
   // Command 32770, where the host sends it.
   void OpenView();

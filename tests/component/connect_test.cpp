@@ -11,6 +11,8 @@
 #include "host/events.h"
 #include "platform/base/bstr.h"
 #include "platform/base/files.h"
+#include "platform/gui/dialog.h"
+#include "platform/headless/user.h"
 #include "tests/component/component_world.h"
 
 namespace pvw {
@@ -85,52 +87,27 @@ TEST_F(ConnectTest, RegistersTheStepsThenTheFramesFacesThenItsPlaceInTheUserInte
                   "RemoveClient {7E75765A-6BE4-4EC5-99B1-DB0B95E0E40B}"));
 }
 
-TEST_F(ConnectTest, TakesAViewThatIsOpenAwayPaneByPane) {
-  World world;
-  Instance instance(file);
-  instance.Connect(world.host);
-  world.LoadSession();
-  world.OpenView();
-  EXPECT_GT(world.host.Ui().Live().size(), 12u);
-  world.host.ClearTranscript();
-
-  instance.Destroy();
-  std::vector<std::string> acts = Acts(world.host);
-  std::erase_if(acts, [](const std::string& line) {
-    return !line.starts_with("RemovePage dock1") && !line.starts_with("RemoveParent") &&
-           !line.starts_with("RemoveMenu") && !line.starts_with("FreeOwnerId");
-  });
-  EXPECT_THAT(
-      acts, ElementsAre(testing::StartsWith("RemovePage dock1"), "FreeOwnerId 3", "FreeOwnerId 4",
-                        testing::StartsWith("RemovePage dock1"), "RemoveParentWindow dock1", "FreeOwnerId 5",
-                        "FreeOwnerId 6", "RemoveMenu 201 owner 1 PvwIO", "FreeOwnerId 1", "FreeOwnerId 2"))
-      << "a control that is destroyed leaves its host by itself";
-  ExpectNothingLeft(world);
-}
-
-TEST_F(ConnectTest, WithoutAHostOrAFlagChangesNothing) {
-  World world;
+TEST_F(ConnectTest, WithoutAHostOrAFlagChangesNothingAndAnotherHostTakesOver) {
+  World world, other;
   Instance instance(file);
   IQComponent& component = instance.Component();
   EXPECT_EQ(component.Connect(nullptr, 0), E_FAIL);
-  EXPECT_EQ(component.Connect(&world.host, 0), S_OK);
   EXPECT_EQ(component.Connect(nullptr, 1), E_FAIL);
   EXPECT_EQ(component.Disconnect(0), E_FAIL) << "not connected";
-  EXPECT_EQ(component.Disconnect(1), E_FAIL);
   EXPECT_THAT(world.host.Transcript(), IsEmpty());
 
   EXPECT_EQ(component.Connect(&world.host, -1), S_OK) << "any flag but 0";
-  world.host.ClearTranscript();
-  EXPECT_EQ(component.Disconnect(0), S_OK);
-  EXPECT_THAT(world.host.Transcript(), IsEmpty()) << "still connected";
-  EXPECT_EQ(component.Disconnect(1), S_OK);
-  world.host.ClearTranscript();
-  EXPECT_EQ(component.Disconnect(1), E_FAIL);
+  EXPECT_THAT(world.host.Asked("GetService IQPageHost"), testing::SizeIs(1)) << "one registrar";
+  EXPECT_EQ(instance.Connect(other.host), S_OK);
+  ExpectNothingLeft(world);
+  EXPECT_THAT(other.host.Asked("GetService IQPageHost"), testing::SizeIs(1));
+  EXPECT_THAT(other.host.Ui().Live(), testing::SizeIs(5));
+  EXPECT_EQ(instance.Disconnect(), S_OK);
+  other.host.ClearTranscript();
   for (const GUID& event : {EVENT_MEMORY_CHANGED, EVENT_TARGET_CONNECTED, EVENT_TARGET_DISCONNECTED}) {
     instance.Fire(event);
   }
-  EXPECT_THAT(world.host.Transcript(), IsEmpty()) << "a host that it has left isn't called";
-  EXPECT_THAT(user, IsEmpty());
+  EXPECT_THAT(other.host.Transcript(), IsEmpty()) << "a host that it has left isn't called";
 }
 
 TEST_F(ConnectTest, NeedsItsResourceLibraryBesideIt) {
@@ -160,62 +137,6 @@ TEST_F(ConnectTest, NeedsItsResourceLibraryBesideIt) {
   EXPECT_EQ(instance.Connect(world.host), S_OK) << "mended";
 }
 
-TEST_F(ConnectTest, AgainAtTheSameHostKeepsTheRegistrarAndReadsTheFileAnew) {
-  World world;
-  Instance instance(file);
-  const auto whole_session = [&] {
-    EXPECT_EQ(instance.Connect(world.host), S_OK);
-    world.LoadSession();
-    world.OpenView();
-    return world.Rows(0);
-  };
-  const std::vector<std::string> rows = whole_session();
-  EXPECT_THAT(rows, ElementsAre("PORT", "TIMER"));
-  EXPECT_EQ(instance.Disconnect(), S_OK);
-  EXPECT_EQ(world.Sessions(), nullptr);
-
-  EXPECT_EQ(whole_session(), rows) << "no module twice";
-  EXPECT_THAT(world.host.Asked("GetService IQPageHost"), testing::SizeIs(1)) << "one registrar";
-  EXPECT_THAT(world.host.Asked("GetService IQDeviceInfo"), testing::SizeIs(4))
-      << "two frames and two test clients";
-
-  // A connect without a disconnect first.
-  EXPECT_EQ(whole_session(), rows);
-  EXPECT_EQ(world.host.Ui().Owners().size(), 6u) << "of one frame and two panes";
-
-  World other;
-  EXPECT_EQ(instance.Connect(other.host), S_OK) << "to another host";
-  EXPECT_THAT(other.host.Asked("GetService IQPageHost"), testing::SizeIs(1));
-  EXPECT_THAT(world.host.Ui().Live(), IsEmpty());
-  EXPECT_THAT(other.host.Ui().Live(), testing::SizeIs(5));
-  instance.Destroy();
-}
-
-TEST_F(ConnectTest, TwoInstancesFollowTheirOwnHosts) {
-  World first, second;
-  Instance one(file), two(file);
-  for (auto [world, instance] : {std::pair(&first, &one), std::pair(&second, &two)}) {
-    EXPECT_EQ(instance->Connect(world->host), S_OK);
-    instance->Fire(EVENT_TARGET_CONNECTED);
-    world->LoadSession();
-    world->OpenView();
-    world->Expand(0, 0);
-  }
-  second.host.Poke(0xFF0000, {0x5A});
-  first.TakeReads();
-  second.TakeReads();
-
-  two.Fire(EVENT_MEMORY_CHANGED);
-  EXPECT_EQ(first.TakeReads(), 0u);
-  EXPECT_EQ(second.TakeReads(), 1u);
-  EXPECT_THAT(second.Rows(0), ElementsAre("PORT", "PDATA 5A", "PDIR 01", "TIMER"));
-  EXPECT_THAT(first.Rows(0), ElementsAre("PORT", "PDATA 00", "PDIR 01", "TIMER"));
-
-  EXPECT_EQ(two.Disconnect(), S_OK);
-  one.Fire(EVENT_MEMORY_CHANGED);
-  EXPECT_EQ(first.TakeReads(), 1u) << "also after the later one has gone";
-}
-
 TEST_F(ConnectTest, InstancesAtOneHostShareItsTargetUntilTheLastGoes) {
   World world;
   Instance one(file), two(file);
@@ -232,27 +153,6 @@ TEST_F(ConnectTest, InstancesAtOneHostShareItsTargetUntilTheLastGoes) {
   world.TakeReads();
   one.Fire(EVENT_MEMORY_CHANGED);
   EXPECT_EQ(world.TakeReads(), 1u);
-}
-
-TEST_F(ConnectTest, AViewThatClosesWhileItTellsOfAFaultyFileOpensNoRow) {
-  World world;
-  platform::WriteWholeFile(world.dir.Path("device.io"),
-                           "[Modules]\nFileVersion=2\nModule1=PORT\n[PORT]\nreg0=P0\n");
-  Instance instance(file);
-  EXPECT_EQ(instance.Connect(world.host), S_OK);
-  instance.Fire(EVENT_TARGET_CONNECTED);
-  world.LoadSession();
-  world.OpenView();
-  const platform::HWND sink = world.host.Ui().SinkOf(32770);
-  const auto pages = world.host.Ui().Pages(world.Dock()->window->GetHandle());
-  meanwhile = [&] {
-    for (const auto& page : pages) platform::SendMessage(sink, platform::WM_USER + 1, page.window);
-  };
-  world.Expand(0, 0);
-  EXPECT_THAT(user, ElementsAre(testing::HasSubstr("register description 'P0' not found")));
-  EXPECT_EQ(world.Dock(), nullptr);
-  world.OpenView();
-  EXPECT_THAT(world.Rows(0), ElementsAre("PORT"));
 }
 
 TEST_F(ConnectTest, EndsWhateverItIsInTheMidstOfWhenItDisconnects) {
@@ -299,6 +199,35 @@ TEST_F(ConnectTest, EndsWhateverItIsInTheMidstOfWhenItDisconnects) {
       ExpectNothingLeft(world);
     }
   }
+}
+
+using DialogTest = test::ConnectedTest;
+
+TEST_F(DialogTest, EndsWithTheConnectionToTheHostThatItAsks) {
+  for (const bool destroy : {false, true}) {
+    for (const bool edits : {true, false}) {
+      world.OpenView();
+      world.Expand(0, 0);
+      display.Give(platform::DialogAnswer{{[&](platform::CDialog& dialog) {
+        destroy ? instance.Destroy() : static_cast<void>(instance.Disconnect());
+        EXPECT_FALSE(dialog.Exists());
+      }}});
+      if (edits) {
+        world.Grid(0)->SelectItem(world.Grid(0)->GetItemAtRow(1));
+        platform::SetFocus(world.Grid(0)->GetHandle());
+        platform::user::PressKey(platform::VK_RETURN);
+      } else {
+        platform::SendMessage(world.Pane(0), platform::WM_COMMAND, 32773);
+      }
+      EXPECT_THAT(world.host.Asked("WriteBlock"), IsEmpty());
+      if (destroy) break;
+      instance.Connect(world.host);
+      instance.Fire(EVENT_TARGET_CONNECTED);
+      world.LoadSession();
+    }
+  }
+  EXPECT_THAT(user, ElementsAre("dialog: Edit PDATA at H'00FF0000", "dialog: Set I/O File",
+                                "dialog: Edit PDATA at H'00FF0000"));
 }
 
 TEST_F(ConnectTest, LetsTheComplaintAboutAWrongDebuggerLibraryOut) {

@@ -1,7 +1,5 @@
 // Which news of the target make the view read it.
 
-#include <gmock/gmock.h>
-
 #include <functional>
 #include <sstream>
 
@@ -10,8 +8,6 @@
 
 namespace pvw {
 namespace {
-
-using testing::ElementsAre;
 
 class RefreshTest : public test::ConnectedTest {
  protected:
@@ -27,6 +23,7 @@ class RefreshTest : public test::ConnectedTest {
     IQSteppingClient& stepping = *world.Stepping();
     const std::map<std::string, std::function<void()>> acts = {
         {"begin", [&] { stepping.OnStepBegin(1, 0); }},
+        {"begin-of-another-kind", [&] { stepping.OnStepBegin(3, 8); }},
         {"begin-quiet", [&] { stepping.OnStepBegin(1, 7); }},
         {"begin-quiet-without-steps", [&] { stepping.OnStepBegin(0, 7); }},
         {"step", [&] { stepping.OnStep(); }},
@@ -56,6 +53,7 @@ TEST_F(RefreshTest, NewsAreRefreshesUnlessTheViewIsHiddenOrLocked) {
   };
   const Row rows[] = {{"begin-quiet step step step step step end", 1, 0},
                       {"begin step step step step step end", 6, 0},
+                      {"begin-of-another-kind step end", 2, 0},
                       {"begin-quiet-without-steps step refresh1 end", 2, 0},
                       {"end", 1, 0},
                       {"step", 1, 0},
@@ -77,43 +75,6 @@ TEST_F(RefreshTest, NewsAreRefreshesUnlessTheViewIsHiddenOrLocked) {
     EXPECT_EQ(ReadsOf(row.news), 0u) << "locked";
     Lock();
   }
-}
-
-TEST_F(RefreshTest, ShowsWhatHasChangedOrElseWhatWasThere) {
-  const auto expect = [&](const std::string& data, const std::string& direction) {
-    EXPECT_THAT(world.Rows(0), ElementsAre("PORT", "PDATA " + data, "PDIR " + direction, "TIMER"));
-  };
-  world.host.Poke(0xFF0000, {0x11});
-  Lock();
-  EXPECT_EQ(ReadsOf("end"), 0u);
-  expect("00", "01");
-  Lock();
-  EXPECT_EQ(world.TakeReads(), 1u) << "the lock's end";
-  expect("11", "01");
-
-  world.host.Poke(0xFF0000, {0x22, 0x33});
-  ReadsOf("end");
-  expect("22", "33");
-  world.host.Poke(0xFF0000, {0x44, 0x55});
-  world.host.FailAll("ReadDirect");
-  ReadsOf("end");
-  expect("22", "33");
-  EXPECT_THAT(user, testing::IsEmpty());
-}
-
-TEST_F(RefreshTest, AClosedPaneKeepsNoRecordInTheReads) {
-  const platform::HWND first = world.Pane(0), second = world.Pane(1);
-  EXPECT_EQ(world.TellSink(platform::WM_USER + 1, first), 1);
-  EXPECT_EQ(ReadsOf("request"), 0u) << "the module was open in that pane alone";
-  EXPECT_EQ(world.TellSink(platform::WM_USER + 4, second), 1);
-  EXPECT_EQ(world.Rows(0), std::vector<std::string>{}) << "the pane of the selection, which has nothing";
-  const platform::ScopedBstr path(world.dir.Path("device.io"));
-  EXPECT_EQ(world.Server()->LoadIOFile(path.Get(), 0), 0) << "which takes no load";
-  EXPECT_EQ(world.TellSink(platform::WM_USER + 1, second), 1);
-  EXPECT_EQ(world.Dock(), nullptr);
-
-  world.OpenView();
-  EXPECT_THAT(world.Rows(0), ElementsAre("PORT", "TIMER")) << "built from the start";
 }
 
 }  // namespace

@@ -97,20 +97,6 @@ class CommandSinkTest : public testing::Test {
   HWND dock = 0, all = 0, selected = 0;
 };
 
-TEST(CommandSink, AsksForServicesThenOwnersThenTheDebuggersServices) {
-  FakeHost host;
-  CUiRegistrar registrar(&host);
-  host.ClearTranscript();
-  const Sink sink(&host, &registrar);
-  EXPECT_THAT(
-      host.Transcript(),
-      ElementsAre("GetService IQNumberFormat", "GetService IQHostCommon", "GetService IQPathService",
-                  "GetService IQSettings", "GetService IQDataManager", "GetService IQHostExtra",
-                  "AllocOwnerId", "AllocOwnerId", "GetService IQDebugSession", "GetService IQDebugExtra",
-                  "GetService IQDebugger", "GetService IQTargetMemory", "GetService IQBlockMemory",
-                  "GetService IQBreakpoints", "GetService IQCpuRegisters", "GetService IQDebugExtra2"));
-}
-
 TEST(CommandSink, StandsWithAHostThatLacksAnyOneThing) {
   const platform::GUID kServices[] = {IID_IQNumberFormat, IID_IQHostCommon, IID_IQPathService, IID_IQSettings,
                                       IID_IQDataManager,  IID_IQHostExtra,  IID_IQDebugger};

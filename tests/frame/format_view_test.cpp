@@ -105,20 +105,6 @@ TEST_F(FormatViewTest, AFontReplacesTheOneBeforeAndGoesToTheWindow) {
   EXPECT_EQ(Font(), "1:  -7");
 }
 
-TEST_F(FormatViewTest, TheShortFormsReachWhatASubclassReplaces) {
-  class Replacing final : public CPvwFormatViewCtrl {
-   public:
-    Replacing() : CPvwFormatViewCtrl(nullptr, nullptr) {}
-    platform::Status SetFont(platform::BSTR, std::int32_t size) override { return size; }
-    platform::Status SetItemColours(platform::BSTR item, std::int32_t fg, std::int32_t bk) override {
-      return platform::BstrText(item) == "Text" ? fg : bk;
-    }
-  } replacing;
-  EXPECT_EQ(replacing.SetDefaultFont(nullptr, 9), 9);
-  EXPECT_EQ(replacing.SetTextColours(1, 2), 1);
-  EXPECT_EQ(replacing.SetSelectedTextColours(3, 4), 4);
-}
-
 TEST_F(FormatViewTest, AnswersForItsOwnFaces) {
   for (const platform::GUID& id : {IID_IUnknown, IID_IQFormatViewClient, IID_IQFormatViewClient2}) {
     void* face = nullptr;

@@ -129,6 +129,9 @@ TEST_F(Keeping, TheLayoutOfTheWindowComesBack) {
   Settle();
   Key(Qt::Key_I, Qt::ControlModifier);
   EXPECT_TRUE(Window().ViewFrame()->isFloating());
+
+  Window().close();
+  EXPECT_TRUE(Window().ViewFrame()->close()) << "the program can end";
 }
 
 TEST_F(Keeping, FontAndColoursAreChosenInTheFormatDialog) {

@@ -81,35 +81,6 @@ TEST_F(RegisterIdTest, AWriteIsRecordedOnceItIsDone) {
                           "memory_fill 0x3 0x3 0x0 BYTE"));
 }
 
-TEST_F(RegisterIdTest, AFailedWriteShowsTheDebuggersTextAndRecordsNothing) {
-  host.recorder_active = true;
-  host.error_texts[E_FAIL] = "Target access failed.";
-  Place(reg, 8, 1).SetValue(0x42);
-  host.FailNext("WriteBlock");
-  EXPECT_EQ(reg.Write(host.Debugger()), E_FAIL);
-  EXPECT_EQ(reg.GetValue(), 0x42u);
-  // Without the entry there is no text either, whatever failed before.
-  g_debugEntries.IN1_Put_Value = nullptr;
-  EXPECT_EQ(reg.Write(host.Debugger()), E_FAIL);
-  EXPECT_THAT(messages.Lines(),
-              ElementsAre("message [exclamation]: Target access failed.", "message [exclamation]: "));
-  EXPECT_THAT(host.recorded, IsEmpty());
-}
-
-TEST_F(RegisterIdTest, EachRegisterReadsAndWritesItsOwnHost) {
-  FakeHost other;
-  BindDebuggerFunctions(&other, 1);
-  host.Poke(0x10, {0xAA});
-  other.Poke(0x10, {0xBB});
-  CIORegisterID there(&other);
-  ASSERT_EQ(Place(reg, 0x10, 1).Read(host.Debugger()), S_OK);
-  ASSERT_EQ(Place(there, 0x10, 1).Read(host.Debugger()), S_OK);
-  EXPECT_EQ(reg.GetValueText() + there.GetValueText(), "AABB");
-  EXPECT_EQ(reg.Write(nullptr), S_OK);
-  EXPECT_THAT(other.Asked("WriteBlock"), IsEmpty());
-  UnbindDebuggerFunctions(&other);
-}
-
 TEST_F(RegisterIdTest, TheAddressTextIsTheHostsAndEmptyWithoutIt) {
   EXPECT_EQ(Place(reg, 0xFFFFFFFF, 1).GetAddressText(2), "H'00000001");
   EXPECT_EQ(host.Transcript().back(), "FormatAddress 00000001 space 0 mask FFFFFFFF flags 0");

@@ -98,7 +98,6 @@ class FakeHost final : public IQComponentHost {
   FakePlaceholderList global_placeholders, workspace_placeholders;
 
   std::string device_path = "c:\\device";
-  std::uint32_t device_base = 0;
 
   std::map<std::string, std::string> session;           // by "ws prj cfg KEY"
   std::map<std::string, std::string> setting_texts;     // by "KEY"

@@ -373,7 +373,7 @@ class FakeDeviceInfo final : public Service<IQDeviceInfo> {
   }
   Status GetBaseAddress(std::uint32_t* address) override {
     const Status status = host_.Begin("GetBaseAddress");
-    if (status == platform::S_OK) *address = host_.device_base;
+    if (status == platform::S_OK) *address = 0;
     return status;
   }
 };

@@ -252,12 +252,10 @@ Status FakeUiManager::RemoveParentWindow(HWND parent) {
 Status FakeUiManager::AddPage(HWND parent, HWND window, std::int32_t position, BSTR title,
                               std::uint32_t number1, std::uint32_t number2, std::uint32_t owner,
                               const GUID* class_id) {
-  FakeRegistration page = Page(host_, parent, window, owner, class_id);
-  page.title = BstrText(title);
   const std::string line = host_.Ui().Name(parent) + " " + host_.Ui().Name(window) + " " +
                            std::to_string(position) + " " + Quoted(title) + Number(" ", number1) +
                            Number(" ", number2) + " " + OwnerText(owner, *class_id);
-  return host_.Ui().Add(std::move(page), "AddPage", line);
+  return host_.Ui().Add(Page(host_, parent, window, owner, class_id), "AddPage", line);
 }
 Status FakeUiManager::RemovePage(HWND parent, HWND window, std::uint32_t owner, const GUID* class_id) {
   return host_.Ui().Remove(Page(host_, parent, window, owner, class_id), "RemovePage");
@@ -333,7 +331,6 @@ Status FakeToolbarManager::FindDockableWindow(BSTR identity, BSTR title, IQUpdat
   } else if (dock == nullptr) {
     dock = &host_.Ui().MakeDock(BstrText(identity), BstrText(title));
   }
-  dock->client = client;
   *window = dock->window->GetHandle();
   AnswerText(identity, text);
   return platform::S_OK;

@@ -28,7 +28,6 @@ struct FakeDockWindow {
   bool shown = false;
   std::uint32_t state = 8;  // what GetDockState gives; a change of its docking turns the bit 8
   bool toolbar_shown = true;
-  IQUpdateWindowClient* client = nullptr;
 };
 
 // Something registered and not taken back.
@@ -40,7 +39,6 @@ struct FakeRegistration {
   platform::HMODULE module = nullptr;
   platform::HWND window = 0;  // of a popup menu, a sink, a page
   platform::HWND parent = 0;  // of a page
-  std::string title = {};     // of a page
   std::vector<std::uint32_t> commands = {};
 };
 
@@ -49,9 +47,7 @@ class FakeUi {
   explicit FakeUi(FakeHost& host) : host_(host) {}
   ~FakeUi();
 
-  // In order of registration.
-  const std::vector<FakeRegistration>& Registered() const { return registered_; }
-  // The `what` of each, with its owner: "menu 201 owner 1".
+  // The `what` of each registration in its order, with its owner: "menu 201 owner 1".
   std::vector<std::string> Live() const;
   // Owner ids handed out, from 1, and not given back.
   const std::set<std::uint32_t>& Owners() const { return owners_; }

@@ -1,4 +1,4 @@
-// The test client of a host whose target is connected, with a frame of plain values and a device of four
+// The test client of a host whose target is connected, with a frame of plain values and a device of three
 // registers, on a display without a screen.
 #pragma once
 
@@ -7,7 +7,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -37,13 +36,10 @@ class ClientStage : public testing::Test {
     platform::SetDisplay(nullptr);
   }
 
-  // A byte, a word, a decimal long and one with an ampersand in its name and binary bits.
   static constexpr std::string_view kFile =
-      "[Modules]\nFileVersion=3\nBaseAddress=FF0000\nModule1=PORT\nModule2=TIMER\n"
-      "[PORT]\nreg0=P0\nreg1=P1\n[P0]\nname=PDATA\nreladdr=FF0001\nbitfield0=F0\n[F0]\nname=LOW\nbit=0\n"
-      "[P1]\nname=PCTRL\nreladdr=FF0010\nsize=16\n"
-      "[TIMER]\nreg0=T0\nreg1=T1\n[T0]\nname=TCNT\nreladdr=FF0020\nsize=32\nradix=D\n"
-      "[T1]\nname=T&R\nreladdr=FF0003\nradix=B\n";
+      "[Modules]\nFileVersion=3\nBaseAddress=FF0000\nModule1=PORT\n[PORT]\nreg0=P0\nreg1=P1\nreg2=T0\n"
+      "[P0]\nname=PDATA\nreladdr=FF0001\n[P1]\nname=PCTRL\nreladdr=FF0010\nsize=16\n"
+      "[T0]\nname=TCNT\nreladdr=FF0020\nsize=32\n";
 
   // Selects registers as a text does that holds nothing else of them.
   void Select(const std::vector<std::string>& names) {
@@ -55,19 +51,6 @@ class ClientStage : public testing::Test {
     platform::ScopedBstr text;
     EXPECT_EQ(client->GetTestData(text.Receive()), 0);
     return text.Text();
-  }
-  // The status, and both texts where they are given: "1: 0 0 A / 1 3 A 00 01". With the target, without a
-  // second text.
-  std::string Compared(const std::string& text, const std::optional<std::string>& other = std::nullopt) {
-    const platform::ScopedBstr first(text), second(other.value_or(""));
-    platform::ScopedBstr summary, detail;
-    std::uint32_t status = 77;
-    EXPECT_EQ(
-        0, other ? client->CompareTexts2(first.Get(), 5, second.Get(), 5, summary.Receive(), detail.Receive(),
-                                         &status)
-                 : client->CompareWithTarget2(first.Get(), 5, summary.Receive(), detail.Receive(), &status));
-    if (summary.Get() == nullptr && detail.Get() == nullptr) return std::to_string(status);
-    return std::to_string(status) + ": " + summary.Text() + " / " + detail.Text();
   }
   // Whether records were made since the last call.
   bool HasRead() {

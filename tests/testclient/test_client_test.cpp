@@ -1,56 +1,20 @@
-// What the test framework gets from the client: captures and comparisons, from which file, and what happens
-// when host or user do something else meanwhile.
+// From which file the client captures, its dialog's list, and what happens when host or user do something
+// else meanwhile.
 
 #include "platform/base/files.h"
 #include "platform/gui/dialog.h"
+#include "platform/gui/tree_ctrl.h"
 #include "platform/headless/user.h"
+#include "tests/support/scopes.h"
 #include "tests/testclient/client_stage.h"
 
 namespace pvw {
 namespace {
 
-using platform::CancelAnswer;
 using platform::CDialog;
 using platform::DialogAnswer;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class TestClient : public test::ClientStage {};
-
-TEST_F(TestClient, CapturesWhatTheValueColumnShowsInTheOrderOfTheText) {
-  host.device_base = 0x1000;  // which moves the view's tree alone
-  host.Poke(0xFF0020, {0, 0, 1, 0x2C});
-  Select({"TCNT", "NONE", "LOW", "PORT", "pdata", "PCTRL", "T\\&R", "PDATA", "TCNT"});
-  EXPECT_EQ(Captured(),
-            "1.0&device&0&4&TCNT H'00FF0020 5 300&PCTRL H'00FF0010 2 1011&T\\&R H'00FF0003 4 11&"
-            "PDATA H'00FF0001 1 1")
-      << "the digits of a decimal or binary value, and nothing for bit fields, modules and other names";
-
-  host.Poke(0xFF0001, {0x77});
-  host.FailAll("ReadDirect");
-  EXPECT_THAT(Captured(), testing::EndsWith("PDATA H'00FF0001 1 1")) << "the last value that was read";
-  host.Lack(IID_IQDebugger);
-  host.FailNone();
-  EXPECT_THAT(Captured(), testing::EndsWith("PDATA H'00FF0001 1 1"));
-
-  Select({});
-  frame.path = "$(CONFIGDIR)\\gone.io";
-  EXPECT_EQ(Captured(), "1.0&gone&0&0") << "without registers no file is asked for";
-}
-
-TEST_F(TestClient, ComparesWithTheTargetAndOneTextWithAnother) {
-  Select({"PDATA", "PCTRL"});
-  const std::string then = Captured();
-  EXPECT_EQ(Compared(then), "0");
-  host.Poke(0xFF0001, {0xA5});
-  EXPECT_EQ(Compared(then), "1: 0 0 PDATA / 1 3 PDATA 01 A5");
-  EXPECT_EQ(Compared(then, Captured()), "1: 0 0 PDATA / 1 3 PDATA 01 A5");
-  EXPECT_EQ(Compared(then + "&GONE a 1 0"), "2: 0 0 PDATA, GONE / 1 3 PDATA 01 A5&1 0 GONE Dest");
-  EXPECT_EQ(Compared("1.0&d&1&1&A a 1 1", "1.0&d&0&1&A b 1 1"), "0") << "the first text's flag";
-  EXPECT_EQ(Compared("1.0&d", "1.0&d&0&1&A b 1 1"), "2: 0 0 A / 1 0 A Src");
-  EXPECT_EQ(Captured(), "1.0&device&1&0") << "the flag stays while a text has none";
-  EXPECT_THAT(shown, IsEmpty());
-}
 
 TEST_F(TestClient, ReadsTheFileAnewOnlyWhenTheFrameKnowsAnotherPathOrTime) {
   Select({"PDATA"});
@@ -76,35 +40,53 @@ TEST_F(TestClient, ReadsTheFileAnewOnlyWhenTheFrameKnowsAnotherPathOrTime) {
   EXPECT_TRUE(capture("1&PDATA H'00FF0001 1 1")) << "the path compares exactly";
 }
 
-TEST_F(TestClient, TakesTheDefaultFileAndElseAsksForOne) {
-  dir.Write("default.io", kFile);
-  frame.path.clear();
-  Select({"PDATA"});
-  EXPECT_EQ(frame.path, dir.Path("default.io"));
-  EXPECT_FALSE(frame.dirty);
+TEST_F(TestClient, TakesANameOnceAndTheLaterFormsOfItsOperations) {
+  const platform::ScopedBstr chosen("1.0&x&0&3&TCNT a 1 0&PDATA a 1 0&TCNT a 1 0");
+  std::uint32_t result = 77;
+  EXPECT_EQ(client->SetTestDataChecked(chosen.Get(), &result), 0);
+  EXPECT_EQ(result, 0u);
+  const std::string captured = Captured();
+  EXPECT_EQ(captured, "1.0&device&0&2&TCNT H'00FF0020 4 20212223&PDATA H'00FF0001 1 1");
 
-  // Cancelled: twice, for the text and for the capture.
-  frame.path = dir.Path("gone.io");
-  const std::string text = "1.0&gone&0&1&PDATA a 1 0";
-  display.Give(CancelAnswer{});
-  display.Give(CancelAnswer{});
-  EXPECT_EQ(Compared(text), "2: 0 0 PDATA / 1 0 PDATA Dest");
-  EXPECT_THAT(shown, ElementsAre("dialog: Set I/O File", "dialog: Set I/O File"));
-  EXPECT_FALSE(frame.dirty);
+  const platform::ScopedBstr before(captured);
+  host.Poke(0xFF0001, {0xA5});
+  const platform::ScopedBstr after(Captured());
+  for (const bool with_target : {true, false}) {
+    platform::ScopedBstr summary, detail;
+    EXPECT_EQ(with_target
+                  ? client->CompareWithTarget2(before.Get(), 5, summary.Receive(), detail.Receive(), &result)
+                  : client->CompareTexts2(before.Get(), 5, after.Get(), 5, summary.Receive(),
+                                          detail.Receive(), &result),
+              0);
+    EXPECT_EQ(std::to_string(result) + ": " + summary.Text() + " / " + detail.Text(),
+              "1: 0 0 PDATA / 1 3 PDATA 01 A5");
+  }
+}
 
-  host.paths.configuration_directory = dir.Path();
-  frame.save_path = true;
-  display.Give(DialogAnswer{{[&](CDialog& dialog) {
-    EXPECT_EQ(dialog.GetDlgItem(9001)->GetText(), dir.Path("gone.io"));
-    dialog.GetDlgItem(9001)->SetText("$(CONFIGDIR)\\default.io");
-    static_cast<platform::CCheckBox*>(dialog.GetDlgItem(13001))->Clicked();
-    platform::user::PressOk(dialog);
+TEST_F(TestClient, ItsDialogSortsByWholeCharactersAndKeepsTheSelectedRow) {
+  // One byte B1 stands before any character of two.
+  const test::CodePage page(932);
+  frame.path =
+      dir.Write("page.io", "[Modules]\nModule1=M\n[M]\n\x82\xA0=1 B A\n\xB1=1 B A\n\x81\x40=1 B A\n");
+  display.Give(DialogAnswer{{[](CDialog& dialog) {
+    auto& list = dynamic_cast<platform::SECTreeCtrl&>(*dialog.GetDlgItem(13002));
+    const auto rows = [&] {
+      std::string names;
+      for (std::size_t i = 0; i < list.GetRowCount(); ++i) {
+        const platform::HTREEITEM row = list.GetItemAtRow(i);
+        names += list.GetItemText(row, 0) + (row == list.GetSelectedItem() ? "< " : " ");
+      }
+      return names;
+    };
+    list.SelectItem(list.GetItemAtRow(0));
+    EXPECT_EQ(rows(), "\xB1< \x81\x40 \x82\xA0 ");
+    for (int click = 0; click < 2; ++click) {
+      platform::user::Click(list, {50, list.GetHeaderHeight() / 2});
+    }
+    EXPECT_EQ(rows(), "\x82\xA0 \x81\x40 \xB1< ");
+    platform::user::PressCancel(dialog);
   }}});
-  Select({"PDATA"});
-  EXPECT_EQ(frame.path, "$(CONFIGDIR)\\default.io");
-  EXPECT_TRUE(frame.dirty);
-  EXPECT_FALSE(frame.save_path);
-  EXPECT_EQ(Captured(), "1.0&default&0&1&PDATA H'00FF0001 1 1") << "the expanded path was opened";
+  EXPECT_EQ(client->EditDetails(), 0);
 }
 
 TEST_F(TestClient, OutlivesWhatTheHostDoesMeanwhile) {
@@ -122,7 +104,12 @@ TEST_F(TestClient, OutlivesWhatTheHostDoesMeanwhile) {
     client.reset();
     dialog.EndDialog(platform::IDOK);
   }}});
-  EXPECT_EQ(Compared("1.0&device&0&1&PDATA a 1 0"), "0");
+  const platform::ScopedBstr text("1.0&device&0&1&PDATA a 1 0");
+  platform::ScopedBstr summary, detail;
+  std::uint32_t status = 77;
+  EXPECT_EQ(client->CompareWithTarget2(text.Get(), 5, summary.Receive(), detail.Receive(), &status), 0);
+  EXPECT_EQ(status, 0u);
+  EXPECT_TRUE(summary.Get() == nullptr && detail.Get() == nullptr);
   EXPECT_EQ(frame.path, dir.Path("gone.io"));
 
   client = std::make_unique<CTestClientIO>(&host, nullptr, &frame, std::string());

@@ -134,5 +134,32 @@ TEST_F(InterruptedTest, NothingIsTouchedThatHasGone) {
   }
 }
 
+TEST_F(InterruptedTest, PickingRegistersEndsCancelledWhenTheirRecordsGo) {
+  const auto select = [&](std::size_t pane, std::function<void(CDialog&)> step) {
+    display.Give(platform::DialogAnswer{{std::move(step)}});
+    EXPECT_TRUE(Pane(pane).RouteCommand(32819));
+  };
+  OpenView("{PORT?}");
+  select(1, [&](CDialog&) { Load(); });
+  EXPECT_TRUE(Record("PORT").IsSelected());
+  select(1, [&](CDialog&) { ClosePane(1); });
+  select(0, [&](CDialog&) { ClosePane(0), data.DeleteModules(); });
+
+  // In the midst of the reading of the file.
+  frame.path = dir.Write("device.io", kFaulty);
+  OpenView();
+  meanwhile = [&] { ClosePane(0); };
+  EXPECT_TRUE(Pane(0).RouteCommand(32819));
+  EXPECT_THAT(shown, testing::HasSubstr("message [stop]"));
+}
+
+TEST_F(InterruptedTest, AViewThatClosesUnderTheFileDialogWritesNothing) {
+  OpenView();
+  display.Give(platform::FileAnswer{dir.Path("rows.txt")});
+  meanwhile = [&] { ClosePane(0); };
+  Pane(0).RouteCommand(32774);
+  EXPECT_FALSE(std::filesystem::exists(dir.Native("rows.txt")));
+}
+
 }  // namespace
 }  // namespace pvw::test

@@ -83,27 +83,8 @@ CTreeGridCtrl& PaneStage::Tree(std::size_t index) {
   return *static_cast<CTreeGridCtrl*>(platform::CWnd::FromHandle(Pane(index).GetTreeWindow()));
 }
 
-std::string PaneStage::Rows(std::size_t pane) {
+HTREEITEM PaneStage::Row(std::size_t pane, const std::string& path) {
   const CTreeGridCtrl& tree = Tree(pane);
-  std::ostringstream text;
-  for (std::size_t i = 0; i < tree.GetRowCount(); ++i) {
-    const HTREEITEM item = tree.GetItemAtRow(i);
-    text << std::string(2 * static_cast<std::size_t>(tree.GetItemDepth(item)), ' ')
-         << (tree.IsExpanded(item)        ? "[-] "
-             : tree.ItemHasChildren(item) ? "[+] "
-                                          : "[ ] ")
-         << tree.GetItemImage(item) << ' ';
-    int last = 3;
-    while (last > 0 && tree.GetItemText(item, last).empty()) --last;
-    for (int column = 0; column <= last; ++column) {
-      text << (column > 0 ? " | " : "") << tree.GetItemText(item, column);
-    }
-    text << (tree.IsChanged(item) ? " *" : "") << '\n';
-  }
-  return text.str();
-}
-
-HTREEITEM PaneStage::RowIn(const platform::SECTreeCtrl& tree, const std::string& path) {
   std::istringstream names(path);
   HTREEITEM item = 0;
   for (std::string name; std::getline(names, name, '/');) {
@@ -127,12 +108,6 @@ CIORec& PaneStage::Record(const std::string& module) {
     if (record->GetName() == module) return *record;
   }
   throw std::runtime_error("no module " + module);
-}
-
-std::string PaneStage::State(std::size_t index, std::uint32_t command) {
-  platform::CCmdUI ui(command);
-  if (!Pane(index).UpdateCommand(ui)) return "not bound";
-  return std::string(ui.IsEnabled() ? "enabled" : "disabled") + (ui.IsChecked() ? " checked" : "");
 }
 
 }  // namespace pvw::test

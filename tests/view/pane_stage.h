@@ -28,12 +28,11 @@ class FakeFrame final : public CPaneFrame {
  public:
   std::vector<CPvwIOInstanceCtrl*> panes;
   bool locked = false, target_update = false, dirty = false, save_path = false;
-  int lock_toggles = 0;
   std::string path, save_dir, save_name;
   std::uint64_t write_time = 0;
 
   bool IsRefreshLocked() const override { return locked; }
-  void ToggleRefreshLock() override { ++lock_toggles, locked = !locked; }
+  void ToggleRefreshLock() override { locked = !locked; }
   bool IsTargetUpdate() const override { return target_update; }
   void UpdatePanes() override {
     for (CPvwIOInstanceCtrl* pane : panes) pane->RefreshData();
@@ -66,12 +65,8 @@ class PaneStage : public testing::Test {
   CPvwIOInstanceCtrl& Pane(std::size_t index) { return *panes[index]; }
   CTreeGridCtrl& Tree(std::size_t index);
 
-  // "[-] 1 PORT\n  [+] 0 PDATA | H'00FF0010 | 10 | RW *\n": the rows that aren't under a closed one, with
-  // their picture, their cells up to the last that isn't empty, and a star where they are red.
-  std::string Rows(std::size_t pane);
   // By names from the module down, "PORT/PDATA".
-  static HTREEITEM RowIn(const platform::SECTreeCtrl& tree, const std::string& path);
-  HTREEITEM Row(std::size_t pane, const std::string& path) { return RowIn(Tree(pane), path); }
+  HTREEITEM Row(std::size_t pane, const std::string& path);
   bool Open(std::size_t pane, const std::string& path) {
     return Tree(pane).Expand(Row(pane, path), platform::TVE_EXPAND);
   }
@@ -81,7 +76,6 @@ class PaneStage : public testing::Test {
   // The target stops: read, then a new generation of marks.
   void Stop();
   CIORec& Record(const std::string& module);
-  std::string State(std::size_t index, std::uint32_t command);
 
   std::function<void()> meanwhile;  // happens once, while the user sees the next line
   std::string shown;                // what the user sees open, line by line

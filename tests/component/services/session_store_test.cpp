@@ -1,6 +1,5 @@
 #include "component/services/session_store.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -12,14 +11,9 @@ namespace pvw {
 namespace {
 
 using test::FakeHost;
-using testing::ElementsAre;
-
-const std::string kId = "{F866DB60-6186-11D5-8BBE-0004E2013C71}";
 
 class SessionStoreTest : public testing::Test {
  protected:
-  SessionStoreTest() { host.ClearTranscript(); }
-
   std::int32_t ReadInt(const std::string& key, std::int32_t default_value) {
     std::int32_t value = 77;
     EXPECT_EQ(store.ReadInt(key, default_value, &value), 0);
@@ -40,17 +34,6 @@ class SessionStoreTest : public testing::Test {
                       configuration.Get(),
                       ID_SessionStore};
 };
-
-TEST_F(SessionStoreTest, KeepsEachKeyBehindItsIdentityUnderTheThreeNames) {
-  EXPECT_EQ(store.WriteString("IOCtrlIOFile", "$(CONFIGDIR)\\a.io"), 0);
-  EXPECT_EQ(store.WriteInt("IOCtrlViews", -1), 0);
-  EXPECT_EQ(ReadString("IOCtrlIOFile", ""), "$(CONFIGDIR)\\a.io");
-
-  const std::string key = "ws prj cfg " + kId;
-  EXPECT_THAT(host.Transcript(), ElementsAre("SetSessionValue " + key + "IOCtrlIOFile = $(CONFIGDIR)\\a.io",
-                                             "SetSessionValue " + key + "IOCtrlViews = -1",
-                                             "GetSessionValue " + key + "IOCtrlIOFile"));
-}
 
 TEST_F(SessionStoreTest, GivesTheDefaultForWhatTheHostDoesntGive) {
   EXPECT_EQ(ReadString("missing", "default"), "default");

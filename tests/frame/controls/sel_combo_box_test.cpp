@@ -32,9 +32,7 @@ class SelComboBox : public testing::Test {
     box.SetText(text);
     box.SaveHistory();
   }
-  std::string& Kept(const std::string& configuration = "ws prj cfg") {
-    return host.session[configuration + " MRULABELS_DATAMANAGER_KEY"];
-  }
+  std::string& Kept() { return host.session["ws prj cfg MRULABELS_DATAMANAGER_KEY"]; }
   std::string Selection() const {
     return box.GetCurrentText() + ' ' + std::to_string(box.GetSelStart()) + '-' +
            std::to_string(box.GetSelEnd());
@@ -45,28 +43,6 @@ class SelComboBox : public testing::Test {
   platform::CWnd parent;
   CUiSelComboBox box{&host};
 };
-
-TEST_F(SelComboBox, KeepsTheLastTwentyTextsNewestFirst) {
-  for (int i = 1; i <= 20; ++i) Save("v" + std::to_string(i));
-  Save("v2");
-  EXPECT_THAT(Kept(), testing::StartsWith("v2|v20|v19|"));
-  EXPECT_THAT(Kept(), testing::EndsWith("|v3|v1")) << "one that is known moves to the head, and none goes";
-  Save("V2");
-  EXPECT_THAT(Kept(), testing::StartsWith("V2|v2|v20|")) << "case counts";
-  EXPECT_THAT(Kept(), testing::EndsWith("|v4|v3")) << "the oldest goes";
-  const std::string before = Kept();
-  Save("");
-  EXPECT_EQ(Kept(), before);
-}
-
-TEST_F(SelComboBox, KeepsAListForEachConfigurationThatIsOpen) {
-  Save("a");
-  host.paths.configuration = "other";
-  Save("b");
-  host.paths.workspace = "ws2";
-  Save("c");
-  EXPECT_EQ(Kept() + Kept("ws prj other") + Kept("ws2 prj other"), "abc");
-}
 
 TEST_F(SelComboBox, LoadsIntoTheListAndPicksOnlyWhenAsked) {
   Kept() = "1F|0x2" + std::string(100000, '|');

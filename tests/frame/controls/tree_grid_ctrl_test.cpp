@@ -25,13 +25,6 @@ class TreeGridTest : public TreeGridStage {
     }
     return texts;
   }
-  // A right click on the header, answered with the entry of the menu at that line.
-  std::string HeaderMenu(std::size_t line) {
-    shown.clear();
-    display.Give(platform::MenuAnswer{line});
-    platform::user::RightClick(tree, {5, 5});
-    return shown;
-  }
 };
 
 TEST_F(TreeGridTest, AChangedRowIsRedInAllItsColumnsUntilTheMarksAreCleared) {
@@ -49,12 +42,7 @@ TEST_F(TreeGridTest, AChangedRowIsRedInAllItsColumnsUntilTheMarksAreCleared) {
   EXPECT_THAT(RedTexts(), ElementsAre());
 }
 
-TEST_F(TreeGridTest, TheHeadersMenuHidesAndShowsColumns) {
-  EXPECT_EQ(HeaderMenu(1), "menu:\n[x] Address\n[x] Value\n[x] Access\n")
-      << "the first column can't be hidden";
-  EXPECT_THAT(Widths(), ElementsAre(200, 100, 0, 100));
-  EXPECT_EQ(HeaderMenu(1), "menu:\n[x] Address\nValue\n[x] Access\n");
-  EXPECT_THAT(Widths(), ElementsAre(200, 100, 100, 100));
+TEST_F(TreeGridTest, OtherCommandsThanThoseOfTheHeadersMenuHideNoColumn) {
   for (const platform::WPARAM id : {0u, 4u, 32771u}) tree.Send(platform::WM_COMMAND, id);
   tree.Send(platform::WM_COMMAND, 1, 99);
   EXPECT_THAT(Widths(), ElementsAre(200, 100, 100, 100))

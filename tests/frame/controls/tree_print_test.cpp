@@ -1,14 +1,10 @@
-// Print: pages of 67 lines, and the way from the grid to the printer.
+// The pages of 67 lines that a text is printed on.
 
 #include "frame/controls/tree_print.h"
 
 #include <gmock/gmock.h>
 
-#include "platform/base/files.h"
-#include "platform/base/system.h"
-#include "platform/base/text.h"
-#include "tests/frame/controls/tree_grid_stage.h"
-#include "tests/support/temp_dir.h"
+#include <utility>
 
 namespace pvw::test {
 namespace {
@@ -60,51 +56,6 @@ TEST(TreePrint, FillsPagesOf67Lines) {
   PrintPages(printer, "a\xC3\xA4\n\nb \r\nno end", "", "");
   EXPECT_THAT(printer.pages, testing::ElementsAre(testing::ElementsAre("0 a", "100 ", "200 b", "300 no en")))
       << "a line loses a whole character";
-}
-
-class TreePrintTest : public TreeGridStage {
- protected:
-  TreePrintTest() : before(platform::System()) { platform::System().temp_directory = dir.Path(); }
-  ~TreePrintTest() override { platform::System() = before; }
-  void PrintTo(const std::string& native) {
-    display.Give(platform::PrintAnswer{native});
-    tree.Print();
-  }
-
-  TempDir dir;
-  const platform::SystemRecord before;
-};
-
-TEST_F(TreePrintTest, PrintsWhatShowsByWayOfAFileThatGoesAgain) {
-  Fill("-A\n  a|1\n");
-  PrintTo(dir.Native("pages").string());
-  std::istringstream dump(tree.GetDumpText());
-  std::string expected;
-  for (std::string line; std::getline(dump, line);) expected += line.substr(0, line.size() - 1) + '\n';
-  EXPECT_EQ(platform::ReadNativeFile(dir.Native("pages").string())->bytes, expected);
-  EXPECT_EQ(shown, "print dialog\n");
-  EXPECT_FALSE(std::filesystem::exists(dir.Native("Treetmp.txt")));
-
-  for (int row = 0; row < 70; ++row) tree.InsertItem("more", -1);
-  PrintTo(dir.Native("pages").string());
-  const std::string pages = platform::ReadNativeFile(dir.Native("pages").string())->bytes;
-  const std::string heading = expected.substr(0, expected.find('-'));
-  EXPECT_TRUE(pages.substr(pages.find('\f') + 1).starts_with(heading + std::string(499, '-') + '\n'));
-}
-
-TEST_F(TreePrintTest, WhatGoesWrongLeavesNothingBehind) {
-  Fill("A\n");
-  display.Give(platform::CancelAnswer{});
-  dir.Write("Treetmp.txt", "another's");
-  tree.Print();
-  EXPECT_TRUE(std::filesystem::exists(dir.Native("Treetmp.txt"))) << "cancelled: nothing is written";
-
-  PrintTo(dir.Native("missing/pages").string());
-  EXPECT_FALSE(std::filesystem::exists(dir.Native("Treetmp.txt"))) << "the printer takes no document";
-
-  std::filesystem::create_directory(dir.Native("Treetmp.txt"));
-  PrintTo(dir.Native("pages").string());
-  EXPECT_EQ(platform::ReadNativeFile(dir.Native("pages").string())->bytes, "") << "one empty page";
 }
 
 }  // namespace

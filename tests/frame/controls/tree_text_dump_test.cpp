@@ -1,4 +1,4 @@
-// The text of a grid: titles, rule, rows; in memory and as a file.
+// The text of a grid: how columns share a line, and the file that it goes to.
 
 #include "frame/controls/tree_text_dump.h"
 
@@ -9,14 +9,12 @@
 #include <numeric>
 
 #include "platform/base/files.h"
-#include "platform/base/text.h"
 #include "tests/frame/controls/tree_grid_stage.h"
 #include "tests/support/temp_dir.h"
 
 namespace pvw::test {
 namespace {
 
-using testing::ElementsAre;
 using testing::ElementsAreArray;
 
 TEST(TreeDumpLayout, ColumnsShareALineByTheirPixels) {
@@ -31,8 +29,6 @@ TEST(TreeDumpLayout, ColumnsShareALineByTheirPixels) {
        {30, 20, 45, 745},
        {3, 2, 4, 75},
        "OneFour" + std::string(71, ' ')},
-      {"one alone has it all", {7, 0, 0, 0}, {85, 0, 0, 0}, "One" + std::string(82, ' ')},
-      {"all are hidden", {0, 0, 0, 0}, {0, 0, 0, 0}, ""},
       {"the widest there are",
        {32767, 32767, 32767, 1},
        {28, 28, 28, 0},
@@ -50,74 +46,10 @@ TEST(TreeDumpLayout, ColumnsShareALineByTheirPixels) {
   }
 }
 
-TEST(TreeDumpLayout, ATextThatIsTooLongKeepsItsLastCharacterBelowTheTop) {
-  struct Row {
-    const char* name;
-    unsigned page;
-    std::size_t level, width;
-    std::string cell, written;
-  };
-  const Row rows[] = {
-      {"fits to the last", 65001, 1, 4, "abcd", "abcd"},
-      {"is cut", 65001, 1, 4, "abcdefg", "abcg"},
-      {"in a hidden column", 65001, 3, 0, "abc", ""},
-      {"at the top it isn't cut", 65001, 0, 2, "abc", "abc"},
-      {"two bytes are one column", 65001, 1, 3, "\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F",
-       "\xC3\xA4\xC3\xB6\xC3\x9F"},
-      {"half a character gives way to a blank", 932, 1, 4, "\x83\x41\x83\x42\x83\x43z", "\x83\x41 z"},
-      {"a wide last character alone, in one column", 932, 1, 1, "ab\x83\x5C", " "},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    platform::SetAnsiCodePage(row.page);
-    std::string out;
-    AppendRow(out, {row.level, false, false, {"", row.cell}}, std::vector<std::size_t>{30, row.width});
-    EXPECT_EQ(out.substr(30), row.written + '\n');
-  }
-  platform::SetAnsiCodePage(65001);
-  std::string out;
-  AppendRow(out, {1, false, false, {"a", "b"}}, std::vector<std::size_t>{0, 0});
-  EXPECT_EQ(out, "") << "a line that nothing is left of is no line";
-}
-
-class TreeDumpTest : public TreeGridStage {
- protected:
-  void Narrow() { SetWidths(tree, {240, 80, 60, 60}); }  // 46, 15, 11, 11 columns
-  TempDir dir;
-  const std::string header = "Name" + std::string(42, ' ') + "Address" + std::string(8, ' ') + "Value" +
-                             std::string(6, ' ') + "Access     \n" + std::string(440, '-') + '\n';
-};
-
-TEST_F(TreeDumpTest, ShowsTheTreeAsItIsOnTheScreen) {
-  Narrow();
-  EXPECT_EQ(tree.GetDumpText(), header) << "no rows";
-  Fill("-PORT\n  DATA|H'1000|FF|RW\n    BIT0\n  -DIR|H'1001\n    BIT1||1\nTIMER\n  null\nEMPTY\n");
-  const auto line = [](std::string first, const std::string& address = "", const std::string& value = "",
-                       const std::string& access = "") {
-    first.resize(46, ' ');
-    first.resize(46 + 15, ' ');
-    first.replace(46, address.size(), address);
-    return first + value + std::string(11 - value.size(), ' ') + access +
-           std::string(11 - access.size(), ' ') + '\n';
-  };
-  const std::string rows = line("[-]-- PORT") + line(" |[+]-- DATA", "H'1000", "FF", "RW") +
-                           line(" |[-]-- DIR", "H'1001") + line(" | | |--- BIT1", "", "1") +
-                           line("[+]-- TIMER") + line(" |--- EMPTY");
-  EXPECT_EQ(tree.GetDumpText(), header + rows);
-
-  tree.MarkChanged(items["DIR"]);
-  const std::string path = dir.Write("out.txt", "old");
-  EXPECT_TRUE(tree.DumpToFile(path));
-  std::string on_disk = platform::ReadNativeFile(dir.Native("out.txt").string())->bytes;
-  EXPECT_EQ(std::ranges::count(on_disk, '\r'), 8);
-  std::erase(on_disk, '\r');
-  EXPECT_EQ(on_disk, header + rows);
-
-  tree.SetHeaderShown(false);
-  EXPECT_EQ(tree.GetDumpText(), rows) << "the widths of the last file hold on";
-}
+class TreeDumpTest : public TreeGridStage {};
 
 TEST_F(TreeDumpTest, AFileIsWrittenWholeOrStaysAsItWas) {
+  const TempDir dir;
   Fill("A\n");
   const std::string path = dir.Write("out.txt", "old");
   EXPECT_FALSE(tree.DumpToFile(dir.Path("missing\\out.txt")));
