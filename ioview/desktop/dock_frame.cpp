@@ -57,8 +57,13 @@ DockFrame::DockFrame(DockWindow& dock, CommandBinder& binder, Wishes wishes, QWi
   });
 }
 
-// The window decides what becomes of it; the frame goes when it does.
+// The window decides what becomes of it; the frame goes when it does. Behind a main window that has closed, a
+// floating frame goes with the program, which doesn't end while one refuses.
 void DockFrame::closeEvent(QCloseEvent* event) {
+  if (!parentWidget()->isVisible()) {
+    QDockWidget::closeEvent(event);
+    return;
+  }
   event->ignore();
   QMetaObject::invokeMethod(
       this,
