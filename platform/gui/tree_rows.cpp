@@ -8,6 +8,7 @@ void TreeRows::Clear() {
   m_order.Clear();
   m_rows.assign(1, {});
   m_rows[kRoot].handle = kTreeRoot;
+  m_texts.clear();
 }
 
 TreeRows::Row TreeRows::Append(Row parent) {
@@ -33,7 +34,12 @@ void TreeRows::Erase(Row row) {
   if (parent.first_child == kRoot && gone.parent != kRoot) m_order.Close(gone.parent);
   std::vector<Row> erased;
   m_order.Erase(row, erased);
-  for (const Row each : erased) m_rows[each] = TreeRow();
+  for (const Row each : erased) {
+    m_rows[each] = TreeRow();
+    for (std::vector<std::string>& column : m_texts) {
+      if (each < column.size()) column[each] = std::string();
+    }
+  }
 }
 
 TreeRows::Row TreeRows::Find(HTREEITEM handle) const {
@@ -44,22 +50,19 @@ TreeRows::Row TreeRows::Find(HTREEITEM handle) const {
 
 const std::string& TreeRows::Text(Row row, int column) const {
   static const std::string empty;
-  const std::vector<std::string>& texts = m_rows[row].texts;
   const auto index = static_cast<std::size_t>(column);
-  return column >= 0 && index < texts.size() ? texts[index] : empty;
+  return column >= 0 && index < m_texts.size() && row < m_texts[index].size() ? m_texts[index][row] : empty;
 }
 
 void TreeRows::SetText(Row row, int column, std::string_view text) {
-  std::vector<std::string>& texts = m_rows[row].texts;
   const auto index = static_cast<std::size_t>(column);
   std::string copy(text);  // it may be another of these texts
-  if (index >= texts.size()) {
+  if (index >= m_texts.size() || row >= m_texts[index].size()) {
     if (text.empty()) return;
-    texts.reserve(index + 1);
-    texts.resize(index + 1);
+    if (index >= m_texts.size()) m_texts.resize(index + 1);
+    m_texts[index].resize(row + 1);
   }
-  texts[index] = std::move(copy);
-  while (!texts.empty() && texts.back().empty()) texts.pop_back();
+  m_texts[index][row] = std::move(copy);
 }
 
 }  // namespace platform
