@@ -1,13 +1,17 @@
 #include "ioview/commands/desktop.h"
 
 #include <QtWidgets/qapplication.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <initializer_list>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "ioview/commands/device_options.h"
@@ -26,7 +30,9 @@ struct DesktopArguments {
 
 namespace {
 
-// Qt ends the program itself, with other words, when it finds none.
+constexpr char kNoDisplay[] =
+    "There is no display to show a window on; ioview dump and ioview script do without";
+
 bool HasDisplay() {
   for (const char* const variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
     const char* const value = std::getenv(variable);
@@ -34,6 +40,32 @@ bool HasDisplay() {
   }
   return false;
 }
+
+// While Qt looks for the display: it says more than a line when none answers, and ends the program by a
+// signal.
+class DisplayWatch {
+ public:
+  DisplayWatch() : before_(std::signal(SIGABRT, &DisplayWatch::OnAbort)) {
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  }
+  DisplayWatch(const DisplayWatch&) = delete;
+  DisplayWatch& operator=(const DisplayWatch&) = delete;
+  ~DisplayWatch() {
+    qInstallMessageHandler(nullptr);
+    std::signal(SIGABRT, before_);
+  }
+
+ private:
+  static void OnAbort(int) {
+    for (const std::string_view part :
+         {std::string_view("ioview: "), std::string_view(kNoDisplay), std::string_view("\n")}) {
+      if (::write(STDERR_FILENO, part.data(), part.size()) < 0) break;
+    }
+    ::_exit(2);
+  }
+
+  void (*before_)(int);
+};
 
 std::string FolderOf(const std::string& file) {
   std::error_code error;
@@ -86,12 +118,14 @@ int RunDesktop(const DesktopArguments& arguments, char* program) {
   options.SetCodePage();
   RequireReadableFile(options.file);
   if (!HasDisplay()) {
-    throw ProgramError("There is no display to show a window on; ioview dump and ioview script do without");
+    throw ProgramError(kNoDisplay);
   }
   // The words of the command line are the program's own.
   int count = 1;
   char* words[] = {program, nullptr};
+  std::optional<DisplayWatch> watch(std::in_place);
   const QApplication application(count, words);
+  watch.reset();
   QApplication::setApplicationName(QStringLiteral("ioview"));
 
   const ComponentLibrary library;

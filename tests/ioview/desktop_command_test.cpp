@@ -29,6 +29,11 @@ TEST(DesktopCommand, SaysWhatIsWrongInOneLine) {
     EXPECT_EQ(outcome.status, 2) << row.error;
     EXPECT_EQ(outcome.out, "");
   }
+  ::setenv("DISPLAY", ":4711", 1);
+  const Outcome silent = RunIoview({file});
+  ::unsetenv("DISPLAY");
+  EXPECT_EQ(silent.err, "ioview: " + rows[0].error + '\n') << "one that doesn't answer";
+  EXPECT_EQ(silent.status, 2);
 }
 
 }  // namespace
