@@ -12,13 +12,25 @@ namespace bench {
 
 namespace {
 
-Definition DefinitionOf(const benchmark::State& state) {
-  return Definition(Version(state), Registers(state));
-}
+// A view that is open, with every row.
+struct OpenView {
+  explicit OpenView(const benchmark::State& state) : definition(Version(state), Registers(state)) {
+    view.Open();
+    view.ExpandAll();
+  }
+  // A stop that makes every row red.
+  void StopChanged() {
+    view.ChangeEverything();
+    view.Host().Step(1, 0, 0);
+  }
+
+  Definition definition;
+  View view{definition};
+};
 
 // Opens what is closed, and leaves a view with rows for every record.
 void ViewOpen(benchmark::State& state) {
-  const Definition definition = DefinitionOf(state);
+  const Definition definition(Version(state), Registers(state));
   View view(definition);
   for (auto _ : state) {
     view.Open();
@@ -33,10 +45,8 @@ void ViewOpen(benchmark::State& state) {
 
 // The records are known, the rows are there, all closed.
 void ViewExpandAll(benchmark::State& state) {
-  const Definition definition = DefinitionOf(state);
-  View view(definition);
-  view.Open();
-  view.ExpandAll();
+  OpenView open(state);
+  View& view = open.view;
   for (auto _ : state) {
     state.PauseTiming();
     platform::SECTreeCtrl& grid = view.Grid();
@@ -50,10 +60,8 @@ void ViewExpandAll(benchmark::State& state) {
 }
 
 void ViewStopChanged(benchmark::State& state) {
-  const Definition definition = DefinitionOf(state);
-  View view(definition);
-  view.Open();
-  view.ExpandAll();
+  OpenView open(state);
+  View& view = open.view;
   for (auto _ : state) {
     state.PauseTiming();
     view.ChangeEverything();
@@ -64,24 +72,18 @@ void ViewStopChanged(benchmark::State& state) {
 }
 
 void ViewStopUnchanged(benchmark::State& state) {
-  const Definition definition = DefinitionOf(state);
-  View view(definition);
-  view.Open();
-  view.ExpandAll();
-  view.ChangeEverything();
-  view.Host().Step(1, 0, 0);
+  OpenView open(state);
+  View& view = open.view;
+  open.StopChanged();
   for (auto _ : state) view.Host().Step(1, 0, 0);
   CountRegisters(state);
 }
 
 // Every row is red: each row that is drawn is looked up among the marks.
 void ViewRepaint(benchmark::State& state) {
-  const Definition definition = DefinitionOf(state);
-  View view(definition);
-  view.Open();
-  view.ExpandAll();
-  view.ChangeEverything();
-  view.Host().Step(1, 0, 0);
+  OpenView open(state);
+  View& view = open.view;
+  open.StopChanged();
   for (auto _ : state) {
     platform::RecordingDC dc(view.Grid().GetClientRect());
     view.Grid().Paint(dc, view.Grid().GetClientRect());
@@ -90,10 +92,8 @@ void ViewRepaint(benchmark::State& state) {
 }
 
 void ViewScrollPage(benchmark::State& state) {
-  const Definition definition = DefinitionOf(state);
-  View view(definition);
-  view.Open();
-  view.ExpandAll();
+  OpenView open(state);
+  View& view = open.view;
   for (auto _ : state) {
     platform::SECTreeCtrl& grid = view.Grid();
     const int next = grid.GetScrollPos(true) + grid.GetPageRows();
@@ -106,19 +106,15 @@ void ViewScrollPage(benchmark::State& state) {
 
 // All of the registers are selected, too.
 void ViewSessionSave(benchmark::State& state) {
-  const Definition definition = DefinitionOf(state);
-  View view(definition);
-  view.Open();
-  view.ExpandAll();
+  OpenView open(state);
+  View& view = open.view;
   for (auto _ : state) view.Host().SaveSession();
   CountRegisters(state);
 }
 
 void ViewSessionLoad(benchmark::State& state) {
-  const Definition definition = DefinitionOf(state);
-  View view(definition);
-  view.Open();
-  view.ExpandAll();
+  OpenView open(state);
+  View& view = open.view;
   view.Host().SaveSession();
   for (auto _ : state) {
     state.PauseTiming();
@@ -132,10 +128,8 @@ void ViewSessionLoad(benchmark::State& state) {
 }
 
 void ViewTextDump(benchmark::State& state) {
-  const Definition definition = DefinitionOf(state);
-  View view(definition);
-  view.Open();
-  view.ExpandAll();
+  OpenView open(state);
+  View& view = open.view;
   for (auto _ : state) benchmark::DoNotOptimize(view.Grid().GetDumpText().size());
   CountRegisters(state);
 }
