@@ -14,11 +14,11 @@
 namespace pvw {
 
 CIORec::CIORec(std::string name, IQComponentHost* host)
-    : m_pNumberFormat(pvw::GetService<IQNumberFormat>(host, IID_IQNumberFormat)),
-      m_name(std::move(name)),
-      m_pHost(host),
+    : m_pTop(this),
       m_pParent(nullptr),
-      m_pTop(this) {
+      m_pNumberFormat(pvw::GetService<IQNumberFormat>(host, IID_IQNumberFormat)),
+      m_pHost(host),
+      m_name(std::move(name)) {
   // About what any kind of record takes.
   constexpr std::size_t kRecordBytes = 320;
   Charge(kRecordBytes + m_name.size());
@@ -44,7 +44,7 @@ CIORec::~CIORec() {
 }
 
 void CIORec::Charge(std::size_t bytes) {
-  m_chargedBytes += bytes;
+  m_chargedBytes += static_cast<std::uint32_t>(bytes);
   s_bytes += bytes;
 }
 
@@ -79,6 +79,7 @@ bool CIORec::LoadChildren(CIODataFile* /*file*/, IQDebugger* /*target*/) {
 platform::Status CIORec::ReadValue(IQDebugger* target) {
   const Watch<CIORec> watch(this);
   for (std::size_t i = 0; i < m_children.size(); ++i) {
+    if (i + kPrefetchSteps < m_children.size()) m_children[i + kPrefetchSteps]->Prefetch();
     if (m_children[i]->m_bMissing) continue;
     m_children[i]->ReadValue(target);
     if (!watch.Stands()) return platform::E_FAIL;

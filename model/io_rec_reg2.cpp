@@ -91,7 +91,7 @@ bool CIORecReg2::ParseId(CIODataFile* file) {
 bool CIORecReg2::LoadChildren(CIODataFile* file, IQDebugger* /*target*/) {
   if (m_bChildrenKnown) return true;
   m_bChildrenKnown = true;
-  const std::string& section = m_register.GetBitSection();
+  const std::string section = m_register.GetBitSection();
   if (section.empty()) return true;
   const CIODataFile::Reading reading(*file);
   const KeyList keys = KeyList::UpTo(*file, section, kBitSectionKeys);

@@ -42,12 +42,14 @@ std::string FillCommand(std::uint32_t address, std::uint32_t size, std::uint32_t
   return command;
 }
 
-// `width` characters of the number, filled with `fill` in front.
-std::string Digits(std::uint32_t value, std::uint32_t radix, std::size_t width, char fill) {
+// `width` characters of the number, filled with `fill` in front. A radix that is known when the program is
+// compiled needs no division.
+template <std::uint32_t kRadix>
+std::string Digits(std::uint32_t value, std::size_t width, char fill) {
   std::string text(width, fill);
-  for (std::size_t at = width; at > 0; value /= radix) {
-    text[--at] = "0123456789ABCDEF"[value % radix];
-    if (value < radix) break;
+  for (std::size_t at = width; at > 0; value /= kRadix) {
+    text[--at] = "0123456789ABCDEF"[value % kRadix];
+    if (value < kRadix) break;
   }
   return text;
 }
@@ -68,9 +70,8 @@ CIORegisterID& CIORegisterID::operator=(const CIORegisterID& other) {
   m_address = other.m_address;
   m_size = other.m_size;
   m_radix = other.m_radix;
-  m_bitSection = other.m_bitSection;
   m_value = other.m_value;
-  m_protection = other.m_protection != nullptr ? std::make_unique<Protection>(*other.m_protection) : nullptr;
+  m_bitSection = other.m_bitSection != nullptr ? std::make_unique<BitSection>(*other.m_bitSection) : nullptr;
   m_pHost = other.m_pHost;
   return *this;
 }
@@ -83,12 +84,21 @@ void CIORegisterID::Set(RegisterDescription description) {
   m_size = description.size;
   m_bAbsolute = description.absolute;
   m_radix = description.radix;
-  m_bitSection = std::move(description.bitSection);
+  if (m_bitSection != nullptr || !description.bitSection.empty()) {
+    MakeBitSection().name = std::move(description.bitSection);
+  }
   m_bSet = true;
 }
 
 void CIORegisterID::SetProtection(std::string tag, std::uint32_t value) {
-  m_protection = std::make_unique<Protection>(Protection{value, std::move(tag)});
+  BitSection& section = MakeBitSection();
+  section.protectionTag = std::move(tag);
+  section.protectionValue = value;
+}
+
+CIORegisterID::BitSection& CIORegisterID::MakeBitSection() {
+  if (m_bitSection == nullptr) m_bitSection = std::make_unique<BitSection>();
+  return *m_bitSection;
 }
 
 platform::Status CIORegisterID::Read(IQDebugger* target) {
@@ -140,14 +150,14 @@ std::string CIORegisterID::GetValueText() const {
   const std::uint32_t value = GetLowWord() & 0xFFFFFFFF >> (32 - bits);
   switch (m_radix) {
     case Radix::kHexadecimal:
-      return Digits(value, 16, bits / 4, '0');
+      return Digits<16>(value, bits / 4, '0');
     case Radix::kBinary:
-      return Digits(value, 2, bits, '0');
+      return Digits<2>(value, bits, '0');
     case Radix::kDecimal:
       break;
   }
-  if (m_size == 4) return Digits(value, 10, 10, ' ');
-  return Digits(value, 10, m_size == 1 ? 3 : 5, '0');
+  if (m_size == 4) return Digits<10>(value, 10, ' ');
+  return Digits<10>(value, m_size == 1 ? 3 : 5, '0');
 }
 
 }  // namespace pvw

@@ -54,9 +54,13 @@ class CIORegisterID {
   const std::string& GetName() const { return m_name; }
   std::uint32_t GetAddress() const { return m_address; }
   std::uint32_t GetSize() const { return m_size; }
-  const std::string& GetBitSection() const { return m_bitSection; }
-  std::string GetProtectionTag() const { return m_protection != nullptr ? m_protection->tag : std::string(); }
-  std::uint32_t GetProtectionValue() const { return m_protection != nullptr ? m_protection->value : 0; }
+  std::string GetBitSection() const { return m_bitSection != nullptr ? m_bitSection->name : std::string(); }
+  std::string GetProtectionTag() const {
+    return m_bitSection != nullptr ? m_bitSection->protectionTag : std::string();
+  }
+  std::uint32_t GetProtectionValue() const {
+    return m_bitSection != nullptr ? m_bitSection->protectionValue : 0;
+  }
 
   // The last value read or about to be written. Reads set its low word only.
   std::uint64_t GetValue() const { return m_value; }
@@ -72,23 +76,26 @@ class CIORegisterID {
   std::string GetValueText() const;
 
  private:
-  std::string m_name;
+  // What few registers have.
+  struct BitSection {
+    std::string name;
+    std::string protectionTag;
+    std::uint32_t protectionValue = 0;
+  };
+  BitSection& MakeBitSection();
+
+  // What a read and the value's text look at comes first.
+  std::uint64_t m_value = 0;
+  IQComponentHost* m_pHost;
   std::uint32_t m_address = 0;
   std::uint32_t m_size = 1;
-  bool m_bAbsolute = true;
   Radix m_radix = Radix::kHexadecimal;
-  std::string m_bitSection;
-  std::uint64_t m_value = 0;
-  // Few registers have one.
-  struct Protection {
-    std::uint32_t value;
-    std::string tag;
-  };
-  std::unique_ptr<Protection> m_protection;
-  IQComponentHost* m_pHost;
-  IQNumberFormat* m_pNumberFormat = nullptr;
-  IQAddressFormat* m_pAddressFormat = nullptr;
+  bool m_bAbsolute = true;
   bool m_bSet = false;
+  IQAddressFormat* m_pAddressFormat = nullptr;
+  IQNumberFormat* m_pNumberFormat = nullptr;
+  std::unique_ptr<BitSection> m_bitSection;
+  std::string m_name;
 };
 
 }  // namespace pvw
