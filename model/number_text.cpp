@@ -1,6 +1,7 @@
 #include "model/number_text.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "platform/base/bstr.h"
 
@@ -29,10 +30,11 @@ std::string NumberText(IQNumberFormat* numberFormat, std::uint64_t value, std::u
   if (numberFormat == nullptr || platform::Failed(Format(*numberFormat, value, bits, text.Receive()))) {
     return "0";
   }
-  std::string digits = text.Text();
-  digits.erase(0, std::min(kPrefixLength, digits.size()));
-  digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size()));
-  return digits.empty() ? "0" : digits;
+  const std::string number = text.Text();
+  std::string_view digits = number;
+  digits.remove_prefix(std::min(kPrefixLength, digits.size()));
+  digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
+  return std::string(digits.empty() ? "0" : digits);
 }
 
 }  // namespace pvw
