@@ -55,65 +55,83 @@ ProfileText::ProfileText(std::string text) : m_text(std::move(text)) {
   const auto place = [this](std::string_view part) {
     return static_cast<std::uint32_t>(part.empty() ? 0 : part.data() - m_text.data());
   };
-  bool counts = false;
   for (std::string_view rest = SkipByteOrderMark(m_text); !rest.empty();) {
     const std::size_t end = std::min(rest.find('\n'), rest.size());
     const ProfileLine line = ParseProfileLine(rest.substr(0, end));
     rest.remove_prefix(std::min(end + 1, rest.size()));
+    const auto size = static_cast<std::uint32_t>(line.name.size());
     if (line.kind == ProfileLine::Kind::kSection) {
-      if (counts) EndSection();
-      counts = BeginSection(line.name);
-    } else if (line.kind == ProfileLine::Kind::kEntry && counts) {
-      m_entries.push_back({NameHash(line.name), place(line.name),
-                           static_cast<std::uint32_t>(line.name.size()), place(line.value),
+      BeginSection({NameHash(line.name), place(line.name), size, static_cast<std::uint32_t>(m_entries.size()),
+                    0, 0, 0});
+    } else if (line.kind == ProfileLine::Kind::kEntry && !m_sections.empty()) {
+      m_entries.push_back({NameHash(line.name), place(line.name), size, place(line.value),
                            static_cast<std::uint32_t>(line.value.size())});
+      ++m_sections.back().entryCount;
     }
   }
-  if (counts) EndSection();
+  IndexSections();
 }
 
 // There are no more entries than lines and no more than equals signs. The sections of a real definition take
 // more than kBytesOfSection each; a text of shorter ones grows its table as it goes.
 void ProfileText::Reserve() {
-  constexpr std::size_t kBytesOfSection = 32;
-  const auto lines = std::count(m_text.begin(), m_text.end(), '\n') + 1;
-  const auto equals = std::count(m_text.begin(), m_text.end(), '=');
-  const auto brackets = std::count(m_text.begin(), m_text.end(), '[');
-  m_entries.reserve(static_cast<std::size_t>(std::min(lines, equals)));
-  const auto sections = static_cast<std::size_t>(std::min(lines, brackets));
-  m_sections.reserve(std::min(sections, m_text.size() / kBytesOfSection));
+  constexpr std::size_t kBytesOfSection = 32, kBlock = std::size_t{1} << 14;
+  std::size_t lines = 1, equals = 0, brackets = 0;
+  // Each block is counted three times while it is in the cache.
+  for (std::string_view rest = m_text; !rest.empty(); rest.remove_prefix(std::min(kBlock, rest.size()))) {
+    const std::string_view block = rest.substr(0, kBlock);
+    const auto count = [block](char c) {
+      return static_cast<std::size_t>(std::count(block.begin(), block.end(), c));
+    };
+    lines += count('\n');
+    equals += count('=');
+    brackets += count('[');
+  }
+  m_entries.reserve(std::min(lines, equals));
+  m_sections.reserve(std::min({lines, brackets, m_text.size() / kBytesOfSection}));
   m_sectionSlots.resize(std::bit_ceil(std::max<std::size_t>(8, m_sections.capacity()) * 2));
 }
 
-bool ProfileText::BeginSection(std::string_view name) {
-  if (m_sections.size() * 2 >= m_sectionSlots.size()) GrowSectionSlots();
-  const std::uint32_t hash = NameHash(name);
-  std::uint32_t& slot = m_sectionSlots[SectionSlot(name, hash)];
-  if (slot != 0) return false;
-  const auto begin = static_cast<std::uint32_t>(name.empty() ? 0 : name.data() - m_text.data());
-  m_sections.push_back({hash, begin, static_cast<std::uint32_t>(name.size()),
-                        static_cast<std::uint32_t>(m_entries.size()), 0, 0, 0});
-  slot = static_cast<std::uint32_t>(m_sections.size());
-  return true;
+void ProfileText::BeginSection(const Section& section) {
+  // Slots lie anywhere in a table that may be larger than the caches: some are fetched together.
+  constexpr std::size_t kAtATime = 64;
+  if (m_sections.size() - m_indexed == kAtATime) IndexSections();
+  m_sections.push_back(section);
 }
 
-void ProfileText::EndSection() {
-  Section& section = m_sections.back();
-  section.entryCount = static_cast<std::uint32_t>(m_entries.size()) - section.firstEntry;
+void ProfileText::IndexSections() {
+  while (m_sections.size() * 2 > m_sectionSlots.size()) GrowSectionSlots();
+  const std::size_t mask = m_sectionSlots.size() - 1;
+  for (std::size_t i = m_indexed; i < m_sections.size(); ++i) {
+    __builtin_prefetch(&m_sectionSlots[m_sections[i].hash & mask]);
+  }
+  for (std::size_t i = m_indexed; i < m_sections.size(); ++i) {
+    const Section section = m_sections[i];
+    std::uint32_t& slot = m_sectionSlots[SectionSlot(NameOf(section), section.hash)];
+    if (slot != 0) continue;
+    m_sections[m_indexed] = section;
+    IndexEntries(m_sections[m_indexed]);
+    slot = static_cast<std::uint32_t>(++m_indexed);
+  }
+  m_sections.resize(m_indexed);
+}
+
+void ProfileText::IndexEntries(Section& section) {
   if (section.entryCount <= kEntriesWithoutTable) return;
   section.firstSlot = static_cast<std::uint32_t>(m_keySlots.size());
   section.slotCount = std::bit_ceil(section.entryCount * 2);
   m_keySlots.resize(m_keySlots.size() + section.slotCount);
-  for (std::uint32_t i = section.firstEntry; i < m_entries.size(); ++i) {
-    std::uint32_t& slot = m_keySlots[KeySlot(section, KeyOf(m_entries[i]), m_entries[i].hash)];
-    if (slot == 0) slot = i + 1;
+  for (std::uint32_t i = 0; i < section.entryCount; ++i) {
+    const Entry& entry = m_entries[section.firstEntry + i];
+    std::uint32_t& slot = m_keySlots[KeySlot(section, KeyOf(entry), entry.hash)];
+    if (slot == 0) slot = section.firstEntry + i + 1;
   }
 }
 
 void ProfileText::GrowSectionSlots() {
   m_sectionSlots.assign(m_sectionSlots.size() * 2, 0);
   const std::size_t mask = m_sectionSlots.size() - 1;
-  for (std::uint32_t i = 0; i < m_sections.size(); ++i) {
+  for (std::uint32_t i = 0; i < m_indexed; ++i) {
     std::size_t slot = m_sections[i].hash & mask;
     while (m_sectionSlots[slot] != 0) slot = (slot + 1) & mask;
     m_sectionSlots[slot] = i + 1;
@@ -148,13 +166,25 @@ std::size_t ProfileText::KeySlot(const Section& section, std::string_view key, s
   }
 }
 
+bool ProfileText::Has(std::uint32_t index, std::string_view name, std::uint32_t hash) const {
+  return index < m_sections.size() && m_sections[index].hash == hash &&
+         NamesEqual(NameOf(m_sections[index]), name);
+}
+
 const ProfileText::Section* ProfileText::FindSection(std::string_view name) const {
   if (m_sections.empty()) return nullptr;
   if (NameOf(m_sections[m_lastSection]) == name) return &m_sections[m_lastSection];
-  const std::uint32_t held = m_sectionSlots[SectionSlot(name, NameHash(name))];
-  if (held == 0) return nullptr;
-  m_lastSection = held - 1;
-  return &m_sections[m_lastSection];
+  const std::uint32_t hash = NameHash(name);
+  std::uint32_t index = m_lastSection + 1;
+  if (!Has(index, name, hash)) index = m_lastSection + m_lastStep;
+  if (!Has(index, name, hash)) {
+    const std::uint32_t held = m_sectionSlots[SectionSlot(name, hash)];
+    if (held == 0) return nullptr;
+    index = held - 1;
+  }
+  m_lastStep = index - m_lastSection;
+  m_lastSection = index;
+  return &m_sections[index];
 }
 
 std::string_view ProfileText::Value(const Section& section, std::string_view key) const {

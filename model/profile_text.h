@@ -78,11 +78,13 @@ class ProfileText {
   };
 
   void Reserve();
-  // False when the name has a section already.
-  bool BeginSection(std::string_view name);
-  void EndSection();
+  void BeginSection(const Section& section);
+  // Takes the sections that were read last into the table, and drops those whose name it has.
+  void IndexSections();
+  void IndexEntries(Section& section);
   void GrowSectionSlots();
   std::string_view NameOf(const Section& section) const;
+  bool Has(std::uint32_t index, std::string_view name, std::uint32_t hash) const;
   std::string_view KeyOf(const Entry& entry) const;
   // The slot that holds the section or key of that name, or the empty one where it belongs.
   std::size_t SectionSlot(std::string_view name, std::uint32_t hash) const;
@@ -90,12 +92,15 @@ class ProfileText {
 
   std::string m_text;
   std::vector<Section> m_sections;
+  std::size_t m_indexed = 0;  // of the sections; the rest are still to be taken into the table
   std::vector<Entry> m_entries;
   // Open addressing with linear probing, at most half full: 0 is empty, else 1 plus an index.
   std::vector<std::uint32_t> m_sectionSlots;
   std::vector<std::uint32_t> m_keySlots;
-  // A caller asks for key after key of one section.
+  // A caller asks for key after key of one section, then for one that stands behind it, often as far behind
+  // as the last one did.
   mutable std::uint32_t m_lastSection = 0;
+  mutable std::uint32_t m_lastStep = 1;
 };
 
 }  // namespace pvw
