@@ -105,9 +105,15 @@ void CTestClientIO::Registers::Open(const std::string& path, IQComponentHost* ho
   static_cast<void>(m_data.LoadModules(&m_file));
   const platform::WaitCursor wait;
   const CIODataFile::Reading reading(m_file);
+  std::vector<const CIORec*> loaded;
+  std::size_t count = 0;
   for (const auto& module : m_data.GetModules()) {
-    if (!module->AreChildrenKnown() && module->LoadChildren(&m_file, nullptr)) AddRegisters(*module);
+    if (module->AreChildrenKnown() || !module->LoadChildren(&m_file, nullptr)) continue;
+    loaded.push_back(module.get());
+    count += module->GetChildren().size();
   }
+  m_known.reserve(count);
+  for (const CIORec* const module : loaded) AddRegisters(*module);
 }
 
 // Bit fields come into being when a row opens, which nothing here does.
