@@ -94,6 +94,12 @@ std::uint32_t SECTreeCtrl::RowOf(HTREEITEM item) const {
   return item == kTreeRoot ? TreeRows::kNone : m_rows->Find(item);
 }
 
+// Null for the root as for a row that is gone.
+TreeRow* SECTreeCtrl::Data(HTREEITEM item) const {
+  const TreeRows::Row row = RowOf(item);
+  return row != TreeRows::kNone ? &(*m_rows)[row] : nullptr;
+}
+
 HTREEITEM SECTreeCtrl::ItemOf(std::uint32_t row) const {
   return row == TreeRows::kRoot ? 0 : m_rows->HandleOf(row);
 }
@@ -145,19 +151,23 @@ HTREEITEM SECTreeCtrl::GetRootItem() const {
 }
 
 HTREEITEM SECTreeCtrl::GetChildItem(HTREEITEM item) const {
-  return HasItem(item) ? ItemOf((*m_rows)[RowOf(item)].first_child) : 0;
+  const TreeRow* const row = Data(item);
+  return row != nullptr ? ItemOf(row->first_child) : 0;
 }
 
 HTREEITEM SECTreeCtrl::GetNextSiblingItem(HTREEITEM item) const {
-  return HasItem(item) ? ItemOf((*m_rows)[RowOf(item)].next) : 0;
+  const TreeRow* const row = Data(item);
+  return row != nullptr ? ItemOf(row->next) : 0;
 }
 
 HTREEITEM SECTreeCtrl::GetParentItem(HTREEITEM item) const {
-  return HasItem(item) ? ItemOf((*m_rows)[RowOf(item)].parent) : 0;
+  const TreeRow* const row = Data(item);
+  return row != nullptr ? ItemOf(row->parent) : 0;
 }
 
 bool SECTreeCtrl::ItemHasChildren(HTREEITEM item) const {
-  return HasItem(item) && m_rows->HasChildren(RowOf(item));
+  const TreeRow* const row = Data(item);
+  return row != nullptr && row->first_child != TreeRows::kRoot;
 }
 
 bool SECTreeCtrl::IsExpanded(HTREEITEM item) const {
@@ -257,7 +267,8 @@ LRESULT SECTreeCtrl::NotifyCode(UINT code) {
 
 const std::string& SECTreeCtrl::GetItemText(HTREEITEM item, int column) const {
   static const std::string none;
-  return HasItem(item) ? m_rows->Text(RowOf(item), column) : none;
+  const TreeRows::Row row = RowOf(item);
+  return row != TreeRows::kNone ? m_rows->Text(row, column) : none;
 }
 
 void SECTreeCtrl::SetItemText(HTREEITEM item, int column, std::string_view text) {
@@ -267,44 +278,49 @@ void SECTreeCtrl::SetItemText(HTREEITEM item, int column, std::string_view text)
 }
 
 int SECTreeCtrl::GetItemImage(HTREEITEM item) const {
-  return HasItem(item) ? (*m_rows)[RowOf(item)].image : 0;
+  const TreeRow* const row = Data(item);
+  return row != nullptr ? row->image : 0;
 }
 
 void SECTreeCtrl::SetItemImage(HTREEITEM item, int image) {
-  if (!HasItem(item)) return;
-  (*m_rows)[RowOf(item)].image = image;
+  TreeRow* const row = Data(item);
+  if (row == nullptr) return;
+  row->image = image;
   Invalidate();
 }
 
 bool SECTreeCtrl::GetItemFlag(HTREEITEM item) const {
-  return HasItem(item) && (*m_rows)[RowOf(item)].flag;
+  const TreeRow* const row = Data(item);
+  return row != nullptr && row->flag;
 }
 
 void SECTreeCtrl::SetItemFlag(HTREEITEM item, bool flag) {
-  if (HasItem(item)) (*m_rows)[RowOf(item)].flag = flag;
+  if (TreeRow* const row = Data(item)) row->flag = flag;
 }
 
 void SECTreeCtrl::SetItemHasCheck(HTREEITEM item, bool has) {
-  if (!HasItem(item)) return;
-  TreeRow& row = (*m_rows)[RowOf(item)];
-  row.has_check = has;
-  row.checked = row.checked && has;
+  TreeRow* const row = Data(item);
+  if (row == nullptr) return;
+  row->has_check = has;
+  row->checked = row->checked && has;
   Invalidate();
 }
 
 bool SECTreeCtrl::GetItemHasCheck(HTREEITEM item) const {
-  return HasItem(item) && (*m_rows)[RowOf(item)].has_check;
+  const TreeRow* const row = Data(item);
+  return row != nullptr && row->has_check;
 }
 
 bool SECTreeCtrl::GetItemCheck(HTREEITEM item) const {
-  return HasItem(item) && (*m_rows)[RowOf(item)].checked;
+  const TreeRow* const row = Data(item);
+  return row != nullptr && row->checked;
 }
 
 void SECTreeCtrl::SetItemCheck(HTREEITEM item, bool on) {
-  if (!HasItem(item)) return;
-  TreeRow& row = (*m_rows)[RowOf(item)];
-  row.has_check = true;
-  row.checked = on;
+  TreeRow* const row = Data(item);
+  if (row == nullptr) return;
+  row->has_check = true;
+  row->checked = on;
   Invalidate();
 }
 

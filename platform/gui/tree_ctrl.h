@@ -27,6 +27,7 @@ namespace platform {
 
 class SECListEdit;
 class TreeRows;
+struct TreeRow;
 namespace tree_layout {
 struct RowShape;
 }
@@ -181,6 +182,7 @@ class SECTreeCtrl : public CWnd {
 
   // Rows and columns.
   std::uint32_t RowOf(HTREEITEM item) const;
+  TreeRow* Data(HTREEITEM item) const;
   HTREEITEM ItemOf(std::uint32_t row) const;
   bool IsBelow(HTREEITEM item, HTREEITEM above) const;
   int WidthOf(int column) const;

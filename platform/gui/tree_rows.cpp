@@ -7,7 +7,7 @@ namespace platform {
 void TreeRows::Clear() {
   m_order.Clear();
   m_rows.assign(1, {});
-  m_rows[kRoot].handle = kTreeRoot;
+  m_handles.assign(1, kTreeRoot);
   m_texts.clear();
 }
 
@@ -16,9 +16,12 @@ TreeRows::Row TreeRows::Append(Row parent) {
   constexpr std::uint64_t kLastHandle = kTreeRoot >> kRowNumberBits;
   if (m_rows.size() >= kMostRows || m_count + 1 >= kLastHandle) return kNone;
   const Row row = m_order.Append(parent);
-  if (row >= m_rows.size()) m_rows.resize(row + 1);
+  if (row >= m_rows.size()) {
+    m_rows.resize(row + 1);
+    m_handles.resize(row + 1);
+  }
+  m_handles[row] = ++m_count << kRowNumberBits | row;
   TreeRow& added = m_rows[row];
-  added.handle = ++m_count << kRowNumberBits | row;
   added.parent = parent;
   added.previous = m_rows[parent].last_child;
   (added.previous != kRoot ? m_rows[added.previous].next : m_rows[parent].first_child) = row;
@@ -36,16 +39,11 @@ void TreeRows::Erase(Row row) {
   m_order.Erase(row, erased);
   for (const Row each : erased) {
     m_rows[each] = TreeRow();
+    m_handles[each] = 0;
     for (std::vector<std::string>& column : m_texts) {
       if (each < column.size()) column[each] = std::string();
     }
   }
-}
-
-TreeRows::Row TreeRows::Find(HTREEITEM handle) const {
-  if (handle == kTreeRoot) return kRoot;
-  const Row row = RowNumber(handle);
-  return handle != 0 && row < m_rows.size() && m_rows[row].handle == handle ? row : kNone;
 }
 
 const std::string& TreeRows::Text(Row row, int column) const {

@@ -18,7 +18,6 @@
 namespace platform {
 
 struct TreeRow {
-  HTREEITEM handle = 0;
   // RowSequence::kRoot for none.
   RowSequence::Row parent = RowSequence::kRoot;
   RowSequence::Row first_child = RowSequence::kRoot;
@@ -46,8 +45,12 @@ class TreeRows {
   void Clear();
 
   // kRoot for kTreeRoot, kNone for a handle whose row is gone.
-  Row Find(HTREEITEM handle) const;
-  HTREEITEM HandleOf(Row row) const { return m_rows[row].handle; }
+  Row Find(HTREEITEM handle) const {
+    if (handle == kTreeRoot) return kRoot;
+    const Row row = RowNumber(handle);
+    return handle != 0 && row < m_handles.size() && m_handles[row] == handle ? row : kNone;
+  }
+  HTREEITEM HandleOf(Row row) const { return m_handles[row]; }
   const TreeRow& operator[](Row row) const { return m_rows[row]; }
   TreeRow& operator[](Row row) { return m_rows[row]; }
   bool HasChildren(Row row) const { return m_rows[row].first_child != kRoot; }
@@ -60,6 +63,7 @@ class TreeRows {
  private:
   RowSequence m_order;
   std::vector<TreeRow> m_rows;                    // the root's first
+  std::vector<HTREEITEM> m_handles;               // of the same; apart, for walks that look at nothing else
   std::vector<std::vector<std::string>> m_texts;  // by column and row, each as far as it has texts
   std::uint64_t m_count = 0;                      // of rows made so far
 };
