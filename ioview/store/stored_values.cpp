@@ -1,15 +1,34 @@
 #include "ioview/store/stored_values.h"
 
+#include <functional>
 #include <utility>
 
 namespace ioview {
 
+namespace {
+
+std::uint32_t HashOf(std::u16string_view key) {
+  return static_cast<std::uint32_t>(std::hash<std::u16string_view>()(key));
+}
+
+}  // namespace
+
 std::size_t SessionValues::Session::PlaceOf(std::u16string_view key) const {
   if (next < entries.size() && entries[next].key == key) return next++;
-  const auto found = places.find(key);
-  const std::size_t at = found != places.end() ? found->second : entries.size();
+  const std::uint32_t place =
+      index.Find(HashOf(key), [&](std::uint32_t candidate) { return entries[candidate].key == key; });
+  const std::size_t at = place != KeyIndex::kNone ? place : entries.size();
   next = at + 1;
   return at;
+}
+
+void SessionValues::Session::Append(std::u16string_view key, std::u16string_view value) {
+  std::pmr::polymorphic_allocator<char16_t> memory(key_memory.get());
+  char16_t* const text = memory.allocate(key.size());
+  key.copy(text, key.size());
+  const std::u16string_view stored(text, key.size());
+  index.Add(HashOf(stored), static_cast<std::uint32_t>(entries.size()));
+  entries.push_back({stored, std::u16string(value)});
 }
 
 void SessionValues::Set(const Names& names, std::u16string_view key, std::u16string_view value) {
@@ -18,8 +37,7 @@ void SessionValues::Set(const Names& names, std::u16string_view key, std::u16str
   Session& session = sessions_[place->second].second;
   const std::size_t at = session.PlaceOf(key);
   if (at == session.entries.size()) {
-    session.places.emplace(key, at);
-    session.entries.push_back({std::u16string(key), std::u16string(value)});
+    session.Append(key, value);
   } else {
     std::u16string& stored = session.entries[at].value;
     if (stored == value) return;

@@ -5,13 +5,16 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <memory>
+#include <memory_resource>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <tuple>
-#include <unordered_map>
 #include <variant>
 #include <vector>
+
+#include "ioview/store/key_index.h"
 
 namespace ioview {
 
@@ -24,7 +27,8 @@ class SessionValues {
     auto operator<=>(const Names&) const = default;
   };
   struct Entry {
-    std::u16string key, value;
+    std::u16string_view key;  // good as long as these values or a copy of them
+    std::u16string value;
   };
 
   void Set(const Names& names, std::u16string_view key, std::u16string_view value);
@@ -38,17 +42,18 @@ class SessionValues {
   std::size_t Changes() const { return changes_; }
 
  private:
-  struct Hash {
-    using is_transparent = void;
-    std::size_t operator()(std::u16string_view key) const { return std::hash<std::u16string_view>()(key); }
-  };
   struct Session {
+    // A large view has a key for each of its rows, so their texts lie one behind the other. A copy shares
+    // them.
+    std::shared_ptr<std::pmr::memory_resource> key_memory =
+        std::make_shared<std::pmr::monotonic_buffer_resource>();
     std::vector<Entry> entries;
-    std::unordered_map<std::u16string, std::size_t, Hash, std::equal_to<>> places;
+    KeyIndex index;
     // Behind the entry that was asked for last: a component saves and loads its keys in one order.
     mutable std::size_t next = 0;
     // The number of entries for a key that there is none of.
     std::size_t PlaceOf(std::u16string_view key) const;
+    void Append(std::u16string_view key, std::u16string_view value);
   };
 
   std::map<Names, std::size_t> places_;
