@@ -104,10 +104,24 @@ void ViewScrollPage(benchmark::State& state) {
   }
 }
 
-// All of the registers are selected, too.
+// Into a store that has nothing.
+void ViewSessionFirstSave(benchmark::State& state) {
+  OpenView open(state);
+  View& view = open.view;
+  for (auto _ : state) {
+    state.PauseTiming();
+    view.Host().host.session_values = {};
+    state.ResumeTiming();
+    view.Host().SaveSession();
+  }
+  CountRegisters(state);
+}
+
+// The store has every value already.
 void ViewSessionSave(benchmark::State& state) {
   OpenView open(state);
   View& view = open.view;
+  view.Host().SaveSession();
   for (auto _ : state) view.Host().SaveSession();
   CountRegisters(state);
 }
@@ -144,6 +158,7 @@ BENCHMARK(ViewStopChanged)->Apply(Sizes);
 BENCHMARK(ViewStopUnchanged)->Apply(Sizes);
 BENCHMARK(ViewRepaint)->Apply(Sizes);
 BENCHMARK(ViewScrollPage)->Apply(Sizes);
+BENCHMARK(ViewSessionFirstSave)->Apply(Sizes);
 BENCHMARK(ViewSessionSave)->Apply(Sizes);
 BENCHMARK(ViewSessionLoad)->Apply(Sizes);
 BENCHMARK(ViewTextDump)->Apply(Sizes);
