@@ -52,7 +52,7 @@ inline constexpr std::array kServices = {
 inline constexpr std::string_view kRootName = "IQComponentHost";
 
 // The name that the operations of an interface are logged under; an id without one doesn't compile.
-consteval std::string_view NameOfInterface(const platform::GUID& id) {
+constexpr std::string_view NameOfInterface(const platform::GUID& id) {
   // Not a service by itself: others answer to it.
   if (id == pvw::IID_IQErrorReporter) return "IQErrorReporter";
   for (const ServiceEntry& entry : kServices) {

@@ -24,7 +24,8 @@ class SessionValues {
  public:
   struct Names {
     std::u16string workspace, project, configuration;
-    auto operator<=>(const Names&) const = default;
+    // The check takes the comparison with 0 that is made here for a null pointer.
+    auto operator<=>(const Names&) const = default;  // NOLINT(modernize-use-nullptr)
   };
   struct Entry {
     std::u16string_view key;  // good as long as these values or a copy of them
