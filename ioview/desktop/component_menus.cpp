@@ -12,7 +12,7 @@ using platform::qt::ToQt;
 
 namespace {
 
-QString Bare(QString text) {
+QString Bare(const QString& text) {
   return text.section(QLatin1Char('\t'), 0, 0).remove(QLatin1Char('&'));
 }
 
