@@ -15,7 +15,7 @@ namespace platform {
 
 namespace {
 
-// The loader trusts the sizes in a file's headers: a library that was copied in part would end the process.
+// The loader trusts a file's headers: a library that was copied in part would end the process.
 bool IsWhole(const std::string& native) {
   // Nor may it open a pipe, where it would wait for a writer.
   const std::optional<FileStamp> stamp = StampNativeFile(native);
@@ -32,7 +32,12 @@ bool IsWhole(const std::string& native) {
     if (!file.read(reinterpret_cast<char*>(&part), sizeof part)) return false;
     if (part.p_offset > stamp->size || part.p_filesz > stamp->size - part.p_offset) return false;
   }
-  return true;
+  // Linkers put the table of sections at the end: a copy that got its full size first has nothing there yet.
+  if (header.e_shnum == 0) return true;
+  const std::uint64_t last = header.e_shoff + std::uint64_t{header.e_shnum - 1u} * sizeof(ElfW(Shdr));
+  ElfW(Shdr) section;
+  return header.e_shentsize == sizeof section && file.seekg(static_cast<std::streamoff>(last)) &&
+         file.read(reinterpret_cast<char*>(&section), sizeof section) && section.sh_type != SHT_NULL;
 }
 
 }  // namespace
