@@ -54,8 +54,9 @@ Status CPvwIOApp::CreateInstance(void* instance) {
 Status CPvwIOApp::DestroyInstance(void* instance) {
   // Out of the table first: its end calls the host, which may ask for it again.
   if (const auto found = m_instances.find(instance); found != m_instances.end()) {
-    const std::unique_ptr<CPvwIODataCtrl> control = std::move(found->second);
+    std::unique_ptr<CPvwIODataCtrl> control = std::move(found->second);
     m_instances.erase(found);
+    if (control != nullptr) CPvwIODataCtrl::End(std::move(control));
   }
   return S_OK;
 }

@@ -34,7 +34,7 @@ constexpr const char* kDefinitionExtension = ".io";
 
 constexpr std::uint32_t kBindMode = 1;
 
-constexpr std::size_t kGroupPixels = 16 * 15;
+constexpr std::size_t kGroupPixels = std::size_t{16} * 15;
 constexpr Status kOutOfMemory = static_cast<Status>(0x8007000Eu);
 
 // A host once for each control that has its target bound: instances at one host share the binding.
@@ -75,9 +75,17 @@ Status GiveBytes(const std::vector<std::uint8_t>& bytes, platform::VARIANT* out)
 
 }  // namespace
 
-CPvwIODataCtrl::~CPvwIODataCtrl() {
-  if (host != nullptr) CPvwIODataCtrl::Disconnect(1);
-  UnbindHost();
+CPvwIODataCtrl::Call::~Call() {
+  if (--control.calls > 0) return;
+  const std::unique_ptr<CPvwIODataCtrl> ended = std::move(control.itself);
+}
+
+void CPvwIODataCtrl::End(std::unique_ptr<CPvwIODataCtrl> control) {
+  CPvwIODataCtrl& ending = *control;
+  const Call call(ending);
+  ending.itself = std::move(control);
+  if (ending.host != nullptr || ending.change == Change::kConnect) ending.Disconnect(1);
+  ending.UnbindHost();
 }
 
 Status CPvwIODataCtrl::QueryInterface(const platform::GUID* iid, void** out) {
@@ -100,7 +108,19 @@ Status CPvwIODataCtrl::QueryInterface(const platform::GUID* iid, void** out) {
 
 Status CPvwIODataCtrl::Connect(IQComponentHost* component_host, std::int16_t flag) {
   if (flag == 0) return CPvwDebugDataCtrl::Connect(component_host, flag);
+  if (change != Change::kNone) return E_FAIL;
+  const Call call(*this);
   if (host != nullptr) Disconnect(flag);
+  if (itself != nullptr) return E_FAIL;
+  change = Change::kConnect;
+  const Status status = ConnectAnew(component_host, flag);
+  change = Change::kNone;
+  if (!std::exchange(disconnectDue, false)) return status;
+  Disconnect(flag);
+  return E_FAIL;
+}
+
+Status CPvwIODataCtrl::ConnectAnew(IQComponentHost* component_host, std::int16_t flag) {
   connectHost = component_host;
   if (!LoadResources()) return E_FAIL;
   if (component_host != nullptr) {
@@ -129,15 +149,25 @@ bool CPvwIODataCtrl::LoadResources() {
 }
 
 Status CPvwIODataCtrl::Disconnect(std::int16_t flag) {
-  if (flag != 0) {
-    if (connectHost != nullptr) {
-      connectHost->RemoveClient(&IID_IQSteppingClient, static_cast<IQSteppingClient*>(this));
-      connectHost = nullptr;
-    }
+  if (flag == 0) return CPvwDebugDataCtrl::Disconnect(flag);
+  if (change == Change::kDisconnect) return E_FAIL;
+  if (change == Change::kConnect) {
+    disconnectDue = true;
+    return S_OK;
+  }
+  const Call call(*this);
+  change = Change::kDisconnect;
+  if (connectHost != nullptr) {
+    connectHost->RemoveClient(&IID_IQSteppingClient, static_cast<IQSteppingClient*>(this));
+    connectHost = nullptr;
+  }
+  {
     const CModuleState state;
     resources.reset();
   }
-  return CPvwDebugDataCtrl::Disconnect(flag);
+  const Status status = CPvwDebugDataCtrl::Disconnect(flag);
+  change = Change::kNone;
+  return status;
 }
 
 void CPvwIODataCtrl::OnConnected() {
@@ -186,7 +216,18 @@ void CPvwIODataCtrl::UnbindHost() {
 
 // News of the target --------------------------------------------------------------------------------------
 
+Status CPvwIODataCtrl::OnStep() {
+  const Call call(*this);
+  return CSteppingClient::OnStep();
+}
+
+Status CPvwIODataCtrl::OnStepEnd() {
+  const Call call(*this);
+  return CSteppingClient::OnStepEnd();
+}
+
 Status CPvwIODataCtrl::OnEvent(const QEventRecord* event) {
+  const Call call(*this);
   if (AsksForRefresh(event->id)) {
     // The end of the step makes up for it.
     if (!stepInProgress) RefreshView();
@@ -211,7 +252,7 @@ void CPvwIODataCtrl::RefreshView() {
   if (!watch.Stands()) return;
   view->SetTargetUpdate(true);
   view->UpdatePanes();
-  view->SetTargetUpdate(false);
+  if (watch.Stands()) view->SetTargetUpdate(false);
 }
 
 // The group in the host's test framework ------------------------------------------------------------------

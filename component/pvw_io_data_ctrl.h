@@ -16,9 +16,10 @@ namespace pvw {
 
 class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, public IQTestComponentGroup {
  public:
-  CPvwIODataCtrl() = default;
-  // Disconnects first where the host hasn't.
-  ~CPvwIODataCtrl() override;
+  // Disconnects first where the host hasn't, then destroys the control. The host may ask for the end from
+  // inside a call that the control is in: then the control is out of use at once, and goes with the end of
+  // the outermost call.
+  static void End(std::unique_ptr<CPvwIODataCtrl> control);
 
   // One answer for all faces.
   platform::Status QueryInterface(const platform::GUID* iid, void** out) override;
@@ -30,8 +31,14 @@ class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, p
   platform::Status OnEvent(const QEventRecord* event) override;
   // E_FAIL, after a message, when the resource library beside the component can't be had. What a failed
   // connect has loaded stays until the next one or the end. A connect while connected disconnects first.
+  //
+  // What the host asks for in the midst of a connect or a disconnect: another connect fails; a disconnect
+  // waits for the connect, which fails then; one in the midst of a disconnect fails, as one without a
+  // connection does.
   platform::Status Connect(IQComponentHost* component_host, std::int16_t flag) override;
   platform::Status Disconnect(std::int16_t flag) override;
+  platform::Status OnStep() override;
+  platform::Status OnStepEnd() override;
 
   platform::Status GetGroupName(platform::BSTR* name) override;
   platform::Status GetGroupBitmaps(platform::VARIANT* first, platform::VARIANT* second) override;
@@ -46,6 +53,20 @@ class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, p
   void OnDisconnected() override;
 
  private:
+  // One call of the host into the control, which stays in memory until the outermost is over.
+  class Call {
+   public:
+    explicit Call(CPvwIODataCtrl& called) : control(called) { ++control.calls; }
+    Call(const Call&) = delete;
+    Call& operator=(const Call&) = delete;
+    ~Call();
+
+   private:
+    CPvwIODataCtrl& control;
+  };
+  enum class Change { kNone, kConnect, kDisconnect };
+
+  platform::Status ConnectAnew(IQComponentHost* component_host, std::int16_t flag);
   // False, and the user has been told, when there is no such library.
   bool LoadResources();
   // The host whose target this control had bound, null for none. The binding itself stays.
@@ -65,6 +86,11 @@ class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, p
   IQComponentHost* connectHost = nullptr;     // as Connect last got it, until the disconnect
   // Whose target this control has bound. The binding outlives a disconnect: it goes when the target does.
   IQComponentHost* boundHost = nullptr;
+
+  int calls = 0;                           // of the host, that the control is in
+  std::unique_ptr<CPvwIODataCtrl> itself;  // from End on
+  Change change = Change::kNone;           // what the control is in the midst of
+  bool disconnectDue = false;              // asked for in the midst of a connect
 };
 
 }  // namespace pvw

@@ -62,6 +62,8 @@ void BindDebuggerFunctions(IQComponentHost* host, std::uint32_t /*mode*/) {
   if (host != nullptr) made->m_pSession = std::make_unique<CDebugSession>(host);
   CDebugBinding& binding = *made;
   g_debugBindings[host] = std::move(made);
+  // The host may unbind itself, or bind anew, while it is asked.
+  const BindingInUse asking;
 
   // All functions are there before the first is stored, so that a wrong library leaves none behind.
   std::array<void*, kLibraryFunctionCount> functions{};
@@ -71,6 +73,8 @@ void BindDebuggerFunctions(IQComponentHost* host, std::uint32_t /*mode*/) {
     }
   }
   const DebugEntries entries = DispatchFunctions();
+  const auto bound = g_debugBindings.find(host);
+  if (bound == g_debugBindings.end() || bound->second.get() != &binding) return;
   for (std::size_t i = 0; i < functions.size(); ++i) LibraryFunctions()[i].store(binding, functions[i]);
   binding.m_pfnExpEval64 = entries.EXP_Eval64;
   g_debugEntries = entries;

@@ -1,5 +1,7 @@
 #include "component/instance/instance_data_ctrl.h"
 
+#include <utility>
+
 #include "component/services/module_state.h"
 #include "frame/controls/html_help.h"
 #include "host/host_ptr.h"
@@ -58,9 +60,15 @@ CPvwInstanceDataCtrl::CPvwInstanceDataCtrl(IQComponentHost* component_host, CUiR
 }
 
 CPvwInstanceDataCtrl::~CPvwInstanceDataCtrl() {
-  if (menuOwnerId != 0) uiRegistrar->FreeOwnerId(&menuOwnerId);
-  if (acceleratorOwnerId != 0) uiRegistrar->FreeOwnerId(&acceleratorOwnerId);
+  FreeOwnerIds();
   --g_liveCount;
+}
+
+void CPvwInstanceDataCtrl::FreeOwnerIds() {
+  for (std::uint32_t* const owner : {&menuOwnerId, &acceleratorOwnerId}) {
+    std::uint32_t id = std::exchange(*owner, 0);
+    if (id != 0) uiRegistrar->FreeOwnerId(&id);
+  }
 }
 
 int CPvwInstanceDataCtrl::GetLiveCount() {

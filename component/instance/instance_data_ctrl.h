@@ -17,7 +17,6 @@ class CPvwInstanceDataCtrl : public platform::CWnd {
  public:
   // Both may be null: then what they give is missing. The registrar isn't owned.
   CPvwInstanceDataCtrl(IQComponentHost* component_host, CUiRegistrar* registrar, std::uint32_t option_flags);
-  // Gives the owner ids back; what stands under them at the host has been released before.
   ~CPvwInstanceDataCtrl() override;
 
   static const platform::MessageTable kMessages;
@@ -37,6 +36,9 @@ class CPvwInstanceDataCtrl : public platform::CWnd {
   // Makes the window, shown and without a size, as a child of `parent`; false when that fails.
   bool CreatePane(platform::HWND parent, platform::HWND owner);
   void DestroyPane();
+  // Gives the owner ids back; what stands under them at the host has been released before. Comes with the end
+  // of the object, or before it where that outlives the registrar.
+  void FreeOwnerIds();
 
   // The commands that every pane has. They act on the host's window around the pane.
   void OnAllowDocking();
