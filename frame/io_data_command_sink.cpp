@@ -93,6 +93,11 @@ CPvwIODataCommandSink::CPvwIODataCommandSink(CIODataFile* file, CIOData* data, I
 CPvwIODataCommandSink::~CPvwIODataCommandSink() {
   Watch<CPvwIODataCommandSink>::OnGone(this);
   EndHostDialogs(m_pHost);
+  if (m_pPaneInMaking != nullptr) {
+    m_pPaneInMaking->ReleaseHostUi();
+    m_pPaneInMaking->DestroyPane();
+    m_pPaneInMaking->FreeOwnerIds();
+  }
   DestroySink();
   RemoveClients();
 }
@@ -163,11 +168,12 @@ std::string CPvwIODataCommandSink::GetPaneTitle(std::size_t index) const {
 bool CPvwIODataCommandSink::IsViewOpen() {
   if (m_pUiRegistrar == nullptr) return false;
   const std::string title = platform::LoadString(IDS_VIEW_TITLE);
+  const Watch<CPvwIODataCommandSink> watch(this);
   HWND window = 0;
   m_pUiRegistrar->FindDockableWindow(m_windowId, title, this, kFindHidden, kLeftDockBar, &window, nullptr);
-  if (window != 0) return false;
+  if (window != 0 || !watch.Stands()) return false;
   m_pUiRegistrar->GetDockableWindow(m_windowId, title, kLeftDockBar, &window, nullptr);
-  return window != 0;
+  return window != 0 && watch.Stands();
 }
 
 void CPvwIODataCommandSink::OnUpdateOpenIOWindow(platform::CCmdUI& ui) {
@@ -223,6 +229,7 @@ bool CPvwIODataCommandSink::OpenFile() {
 }
 
 void CPvwIODataCommandSink::MakePanes(HWND window, bool file_found) {
+  if (m_pPaneInMaking != nullptr) return;
   if (!m_panes.empty()) {
     const CWnd* const parent = m_panes.front()->GetParent();
     if (parent != nullptr && parent->GetHandle() == window) return;
@@ -239,23 +246,29 @@ bool CPvwIODataCommandSink::AddPane(HWND window, std::size_t index, bool file_fo
   auto made = std::make_unique<CPvwIOInstanceCtrl>(m_pIOFile, m_pIOData, index, m_pHost, m_pUiRegistrar, 0);
   CPvwIOInstanceCtrl& pane = *made;
   pane.SetFrame(this);
-  // Rows tell the user of a faulty file, and the host may disconnect meanwhile.
-  const Watch<CPvwIODataCommandSink> watch(this);
-  const bool created = pane.CreatePane(window, GetHandle());
-  if (!watch.Stands()) return false;
-  if (!created) {
-    pane.ReleaseHostUi();
-    return false;
-  }
+  // Before there are rows: what the host has loaded while they are made goes for them as well.
   if (CPvwIOInstanceCtrl* const first = m_paneByIndex[0]; index == 1 && first != nullptr) {
     first->LinkOtherPane(&pane);
     pane.LinkOtherPane(first);
+  }
+  // Rows tell the user of a faulty file, and ask the host for texts; it may disconnect meanwhile.
+  const Watch<CPvwIODataCommandSink> watch(this);
+  m_pPaneInMaking = &pane;
+  const bool created = pane.CreatePane(window, GetHandle());
+  if (!watch.Stands()) return false;
+  if (!created) {
+    m_pPaneInMaking = nullptr;
+    if (m_paneByIndex[0] != nullptr) m_paneByIndex[0]->LinkOtherPane(nullptr);
+    pane.ReleaseHostUi();
+    return false;
   }
   pane.SetStateValid(file_found);
   const ScopedBstr face{std::u16string_view(m_fontName)};
   pane.SetFont(face.Text(), m_fontSize);
   pane.SetItemColours(m_currentItem, m_textFg, m_textBk);
   pane.RefreshData();
+  if (!watch.Stands()) return false;
+  m_pPaneInMaking = nullptr;
   m_panes.push_back(std::move(made));
   m_paneByIndex[index] = &pane;
   return true;

@@ -35,7 +35,7 @@ class CPvwIODataCommandSink final : public CUiDebugCommandSink,
 
   static const platform::MessageTable kMessages;
 
-  // True while the view's window is on the screen.
+  // True while the view's window is on the screen; false when the view goes while the host is asked.
   bool IsViewOpen();
   // A stop of the target or a refresh event is being shown.
   void SetTargetUpdate(bool on) { m_bTargetUpdate = on; }
@@ -114,6 +114,7 @@ class CPvwIODataCommandSink final : public CUiDebugCommandSink,
 
   std::vector<std::string> m_paneTitles;
   std::vector<CPvwIOInstanceCtrl*> m_paneByIndex;  // one for each title; null while it isn't open
+  CPvwIOInstanceCtrl* m_pPaneInMaking = nullptr;   // not among the panes yet
   bool m_bRefreshLocked = false;
   std::int32_t m_savedTextFg;  // the text's real colour while the lock shows GREY
   std::uint64_t m_ioFileWriteTime = 0;

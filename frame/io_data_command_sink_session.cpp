@@ -101,6 +101,7 @@ void CPvwIODataCommandSink::LoadPanes(CSessionStore& store) {
     store.ReadString(PaneKey(1) + "ColWidth0", "", width);
     m_bRefreshLocked = true;
     if (m_paneByIndex[1] != nullptr) m_paneByIndex[1]->LoadState(store, PaneKey(width.empty() ? 0 : 1));
+    if (!watch.Stands()) return;
     m_bRefreshLocked = user_lock;
   }
   if (user_lock) ToggleRefreshLock();

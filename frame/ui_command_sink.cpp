@@ -5,6 +5,7 @@
 
 #include "component/services/module_state.h"
 #include "host/host_ptr.h"
+#include "model/watch.h"
 #include "platform/base/app.h"
 
 namespace pvw {
@@ -48,6 +49,7 @@ CUiCommandSink::CUiCommandSink(IQComponentHost* host, CUiRegistrar* registrar)
 }
 
 CUiCommandSink::~CUiCommandSink() {
+  Watch<CUiCommandSink>::OnGone(this);
   CUiCommandSink::DestroyPanes();
   {
     const CModuleState state;
@@ -77,8 +79,10 @@ void CUiCommandSink::DestroyPanes() {
 }
 
 void CUiCommandSink::UpdatePanes() {
-  // By index: a pane may go while one before it shows its data.
-  for (std::size_t i = 0; i < m_panes.size(); ++i) m_panes[i]->RefreshData();
+  // By index: a pane may go while one before it shows its data, and the view with all of them while one asks
+  // the host for texts.
+  const Watch<CUiCommandSink> watch(this);
+  for (std::size_t i = 0; watch.Stands() && i < m_panes.size(); ++i) m_panes[i]->RefreshData();
 }
 
 platform::LRESULT CUiCommandSink::ClosePane(platform::HWND pane_window, platform::LPARAM) {

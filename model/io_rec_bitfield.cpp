@@ -62,7 +62,9 @@ bool CIORecBitfield::SetValue(IQDebugger* target, std::uint64_t value) {
 bool CIORecBitfield::EditValue(IQDebugger* target, IQNumberFormat* numberFormat, IQComponentHost* host) {
   if (!IsOnTarget()) return false;
   std::uint64_t value = GetFieldValue();
+  const Watch<CIORec> watch(this);
   const std::string address = m_pRegister->GetAddressText(0);
+  if (!watch.Stands()) return false;
   if (!RunEditDialog(numberFormat, host, value, static_cast<std::uint32_t>(m_length), address)) return false;
   return Write(target, WithField(value));
 }

@@ -39,7 +39,8 @@ bool CIORecReg::EditValue(IQDebugger* target, IQNumberFormat* numberFormat, IQCo
   if (!watch.Stands()) return false;
   std::uint64_t value = m_register.GetValue();
   const std::uint32_t bits = m_register.GetSize() * 8;
-  if (!RunEditDialog(numberFormat, host, value, bits, m_register.GetAddressText(0))) return false;
+  const std::string address = m_register.GetAddressText(0);
+  if (!watch.Stands() || !RunEditDialog(numberFormat, host, value, bits, address)) return false;
   m_register.SetValue(value);
   return !platform::Failed(m_register.Write(target));
 }

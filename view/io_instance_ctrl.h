@@ -26,7 +26,7 @@
 
 namespace pvw {
 
-// The owner calls, in this order: SetFrame, CreatePane, LinkOtherPane (on both panes, once there are two),
+// The owner calls, in this order: SetFrame, LinkOtherPane (on both panes, for the second), CreatePane,
 // SetStateValid, SetFont, SetItemColours, RefreshData. It destroys the window before the file, the tree or
 // the frame go.
 class CPvwIOInstanceCtrl : public CPvwDebugInstanceDataCtrl {
@@ -104,6 +104,7 @@ class CPvwIOInstanceCtrl : public CPvwDebugInstanceDataCtrl {
   void FillTree(bool openAll);
   RecordRows Records();
   bool AddChildRows(CIORec& record, HTREEITEM parent);
+  // kRowsGone when the host ends the rows as it is asked for texts.
   HTREEITEM AddChildRow(CIORec& child, HTREEITEM parent);
   void ApplySelectionToRow(HTREEITEM item, CIORec& record);
   void SetLeafImage(HTREEITEM item, const CIORec& record);
@@ -118,8 +119,9 @@ class CPvwIOInstanceCtrl : public CPvwDebugInstanceDataCtrl {
 
   // Refresh.
   void UpdateRowValues(HTREEITEM item);
-  void UpdateRowValue(HTREEITEM item);
-  void RefreshRow(HTREEITEM item, CIORec& record);
+  // Both ask `rows` once the host has given a text.
+  void UpdateRowValue(HTREEITEM item, const Watch<CPvwIOInstanceCtrl>& rows);
+  void RefreshRow(HTREEITEM item, CIORec& record, const Watch<CPvwIOInstanceCtrl>& rows);
   std::string ExpandedIOFilePath() const;
   // False, and the user is told, when the file isn't the one that was loaded any more.
   bool CheckIOFile() const;

@@ -144,7 +144,9 @@ bool CPvwIOInstanceCtrl::EndValueEdit(platform::LVITEM& cell) {
   if (record == nullptr || record->GetAccessText() == kReadOnly) return false;
   FireMemoryChanged(component_host);
   if (IsGone(self) || FindRecord(item) != record) return false;
-  cell.pszText = record->GetValueText();
+  std::string shown = record->GetValueText();
+  if (IsGone(self)) return false;
+  cell.pszText = std::move(shown);
   return true;
 }
 
@@ -180,7 +182,9 @@ platform::LRESULT CPvwIOInstanceCtrl::OnEndLabelEdit(platform::NMHDR& header) {
   if (record == nullptr) return 0;
   FireMemoryChanged(component_host);
   if (IsGone(self) || FindRecord(item) != record) return 0;
-  m_tree.SetItemText(item, kValueColumn, record->GetValueText());
+  const std::string shown = record->GetValueText();
+  if (IsGone(self)) return 0;
+  m_tree.SetItemText(item, kValueColumn, shown);
   return 1;
 }
 

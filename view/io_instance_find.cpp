@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "component/services/module_state.h"
-#include "frame/controls/tree_grid_state.h"
 #include "platform/base/message_box.h"
 #include "platform/base/resources.h"
 #include "platform/base/text.h"
@@ -25,6 +24,43 @@ namespace {
 // Depths of rows; below bit fields nothing is looked at.
 constexpr int kRegisterDepth = 1;
 constexpr int kBitfieldDepth = 2;
+
+// The rows in the order of the screen, down to a depth. It knows the depth that it is at: the tree needn't be
+// asked row by row.
+class RowWalk {
+ public:
+  RowWalk(const platform::SECTreeCtrl& tree, int deepest)
+      : m_tree(tree), m_deepest(deepest), m_row(tree.GetRootItem()) {}
+  void StartBehind(platform::HTREEITEM row) {
+    m_row = row;
+    m_depth = m_tree.GetItemDepth(row);
+    Next();
+  }
+
+  platform::HTREEITEM Row() const { return m_row; }  // 0 at the end
+  int Depth() const { return m_depth; }
+  void Next() {
+    if (const platform::HTREEITEM child = m_depth < m_deepest ? m_tree.GetChildItem(m_row) : 0) {
+      m_row = child;
+      ++m_depth;
+      return;
+    }
+    while (m_row != 0) {
+      if (const platform::HTREEITEM sibling = m_tree.GetNextSiblingItem(m_row)) {
+        m_row = sibling;
+        return;
+      }
+      m_row = m_tree.GetParentItem(m_row);
+      --m_depth;
+    }
+  }
+
+ private:
+  const platform::SECTreeCtrl& m_tree;
+  const int m_deepest;
+  platform::HTREEITEM m_row;
+  int m_depth = 0;
+};
 
 }  // namespace
 
@@ -54,19 +90,21 @@ void CPvwIOInstanceCtrl::OnUpdateFindNext(platform::CCmdUI& ui) {
 
 void CPvwIOInstanceCtrl::FindFirst(std::string text, bool wholeWord) {
   if (!LoadAllRows()) return;
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   if (const HTREEITEM hit = SearchRows(0, std::move(text), wholeWord)) {
     ShowHit(hit);
-  } else {
+  } else if (rows.Stands()) {
     EndSearch(IDS_NAME_NOT_FOUND, IDS_ADDRESS_NOT_FOUND);
   }
 }
 
 void CPvwIOInstanceCtrl::FindNextMatch(std::string text, bool wholeWord) {
   const HTREEITEM last = m_lastFoundItem;
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   const HTREEITEM hit = m_tree.HasItem(last) ? SearchRows(last, std::move(text), wholeWord) : 0;
   if (hit != 0) {
     ShowHit(hit);
-  } else {
+  } else if (rows.Stands()) {
     EndSearch(IDS_NO_MORE_NAME, IDS_NO_MORE_ADDRESS);
   }
 }
@@ -103,18 +141,23 @@ void CPvwIOInstanceCtrl::LoadRowsOf(HTREEITEM row, CIORec& record) {
   SetLeafImage(row, record);
 }
 
-// The first row strictly behind `behind` that has the text, 0 for none; from the top with 0.
+// The first row strictly behind `behind` that has the text; from the top with 0. 0 for none, and when the
+// rows have gone meanwhile: addresses are the host's texts.
 platform::HTREEITEM CPvwIOInstanceCtrl::SearchRows(HTREEITEM behind, std::string text, bool wholeWord) const {
   const bool by_name = m_findColumn == CDlgFind::kNameColumn;
-  const int deepest = by_name ? kBitfieldDepth : kRegisterDepth;
-  const auto next = [&](HTREEITEM row) { return NextRow(m_tree, row, m_tree.GetItemDepth(row) < deepest); };
+  const auto shown = [&](HTREEITEM row, const CIORec& record) {
+    return platform::LowerCase(by_name ? m_tree.GetItemText(row, kNameColumn) : record.GetAddressText(0));
+  };
   text = platform::LowerCase(text);
-  for (HTREEITEM row = behind != 0 ? next(behind) : m_tree.GetRootItem(); row != 0; row = next(row)) {
-    const CIORec* const record = FindRecord(row);
-    if (record == nullptr || (!by_name && m_tree.GetItemDepth(row) != kRegisterDepth)) continue;
-    const std::string shown =
-        platform::LowerCase(by_name ? m_tree.GetItemText(row, kNameColumn) : record->GetAddressText(0));
-    if (wholeWord ? shown == text : ContainsText(shown, text)) return row;
+  const Watch<CPvwIOInstanceCtrl> rows(this);
+  RowWalk walk(m_tree, by_name ? kBitfieldDepth : kRegisterDepth);
+  if (behind != 0) walk.StartBehind(behind);
+  for (; walk.Row() != 0; walk.Next()) {
+    const CIORec* const record = FindRecord(walk.Row());
+    if (record == nullptr || (!by_name && walk.Depth() != kRegisterDepth)) continue;
+    const std::string found = shown(walk.Row(), *record);
+    if (!rows.Stands()) return 0;
+    if (wholeWord ? found == text : ContainsText(found, text)) return walk.Row();
   }
   return 0;
 }

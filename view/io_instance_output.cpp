@@ -46,8 +46,10 @@ platform::LRESULT CPvwIOInstanceCtrl::OnBeginDrag(platform::NMHDR& header) {
   const CIORec* const record = FindRecord(notification.item);
   if (record == nullptr) return 0;
   const CModuleState state;
+  const Watch<CPvwIOInstanceCtrl> rows(this);
   // The text as a receiver expects it, with its end.
   const std::string text = record->GetAddressText(0) + '\0';
+  if (!rows.Stands()) return 0;
   CCtrlDropSource source(true);
   platform::RunDrag(m_tree, text, source);
   return 0;

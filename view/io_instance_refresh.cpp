@@ -16,13 +16,18 @@ namespace pvw {
 void CPvwIOInstanceCtrl::RefreshData() {
   // Marks last until the next stop of the target, which shows only what it changed itself.
   if (m_pFrame->IsTargetUpdate()) m_tree.ClearChanged();
-  m_itemMap.ForEach([this](HTREEITEM item, CIORec* record) { RefreshRow(item, *record); });
+  const Watch<CPvwIOInstanceCtrl> rows(this);
+  m_itemMap.ForEach([&](HTREEITEM item, CIORec* record) {
+    RefreshRow(item, *record, rows);
+    return rows.Stands();
+  });
 }
 
-void CPvwIOInstanceCtrl::RefreshRow(HTREEITEM item, CIORec& record) {
+void CPvwIOInstanceCtrl::RefreshRow(HTREEITEM item, CIORec& record, const Watch<CPvwIOInstanceCtrl>& rows) {
   record.UpdateEnabled();
   if (record.IsMissing()) return;
   const std::string text = record.GetValueText();
+  if (!rows.Stands()) return;
   const std::string& old = m_tree.GetItemText(item, kValueColumn);
   if (old == text) return;
   const bool changed = !old.empty();
@@ -35,19 +40,24 @@ void CPvwIOInstanceCtrl::RefreshRow(HTREEITEM item, CIORec& record) {
 }
 
 void CPvwIOInstanceCtrl::UpdateRowValues(HTREEITEM item) {
-  UpdateRowValue(item);
+  const Watch<CPvwIOInstanceCtrl> rows(this);
+  UpdateRowValue(item, rows);
+  if (!rows.Stands()) return;
   const int depth = m_tree.GetItemDepth(item);
   for (HTREEITEM row = NextRow(m_tree, item, true); row != 0 && m_tree.GetItemDepth(row) > depth;
        row = NextRow(m_tree, row, true)) {
-    UpdateRowValue(row);
+    UpdateRowValue(row, rows);
+    if (!rows.Stands()) return;
   }
 }
 
-void CPvwIOInstanceCtrl::UpdateRowValue(HTREEITEM item) {
+void CPvwIOInstanceCtrl::UpdateRowValue(HTREEITEM item, const Watch<CPvwIOInstanceCtrl>& rows) {
   CIORec* const record = FindRecord(item);
   if (record == nullptr) return;
   record->UpdateEnabled();
-  if (!record->IsMissing()) m_tree.SetItemText(item, kValueColumn, record->GetValueText());
+  if (record->IsMissing()) return;
+  const std::string text = record->GetValueText();
+  if (rows.Stands()) m_tree.SetItemText(item, kValueColumn, text);
 }
 
 void CPvwIOInstanceCtrl::OnRefresh() {
@@ -55,7 +65,7 @@ void CPvwIOInstanceCtrl::OnRefresh() {
   std::ignore = m_pIOData->ReadValues(debugger);
   if (!platform::IsWindow(self)) return;
   RefreshData();
-  if (m_pOtherPane != nullptr) m_pOtherPane->RefreshData();
+  if (platform::IsWindow(self) && m_pOtherPane != nullptr) m_pOtherPane->RefreshData();
 }
 
 void CPvwIOInstanceCtrl::OnLockRefresh() {

@@ -1,7 +1,8 @@
 // How a pane's rows come from the records.
 //
-// A faulty file is told to the user in the midst of it, and a read calls the host: either may close the view,
-// load another file or disconnect. What goes on after one asks whether the pane's rows still stand.
+// A faulty file is told to the user in the midst of it, and the host is called for reads and for texts of
+// addresses and bit fields: either may close the view, load another file or disconnect. What goes on after
+// one asks whether the pane's rows still stand.
 
 #include <tuple>
 #include <utility>
@@ -75,11 +76,15 @@ bool CPvwIOInstanceCtrl::AddChildRows(CIORec& record, HTREEITEM parent) {
 platform::HTREEITEM CPvwIOInstanceCtrl::AddChildRow(CIORec& child, HTREEITEM parent) {
   const HTREEITEM row = InsertRow(child, parent);
   child.UpdateEnabled();
-  if (!child.IsMissing()) {
-    m_tree.SetItemText(row, kAddressColumn, child.GetAddressText(0));
-    m_tree.SetItemText(row, kValueColumn, child.GetValueText());
-    m_tree.SetItemText(row, kAccessColumn, child.GetAccessText());
-  }
+  if (child.IsMissing()) return row;
+  const Watch<CPvwIOInstanceCtrl> rows(this);
+  const std::string address = child.GetAddressText(0);
+  if (!rows.Stands()) return kRowsGone;
+  const std::string value = child.GetValueText();
+  if (!rows.Stands()) return kRowsGone;
+  m_tree.SetItemText(row, kAddressColumn, address);
+  m_tree.SetItemText(row, kValueColumn, value);
+  m_tree.SetItemText(row, kAccessColumn, child.GetAccessText());
   return row;
 }
 

@@ -61,6 +61,7 @@ bool RecordRows::AddBelow(CIORec& record, HTREEITEM parent, const AddRow& add_ro
     }
     CIORec& child = *children[level.next++];
     const HTREEITEM row = add_row(child, level.row);
+    if (row == kRowsGone) return added;
     if (row == 0) continue;
     added = true;
     if (!child.AreChildrenKnown()) {

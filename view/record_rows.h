@@ -17,13 +17,17 @@ int FirstImage(const CIORec& record);
 int LeafImage(const CIORec& record);
 bool HasNoChildren(const CIORec& record);
 
+// Given in place of a row when there are no rows any more. No row is this.
+inline constexpr platform::HTREEITEM kRowsGone = platform::kTreeRoot;
+
 // A tree and what fills it; nothing is owned.
 struct RecordRows {
   platform::SECTreeCtrl& tree;
   CIODataFile& file;
   CIOData& data;
 
-  // Inserts a row for the record at the end of `parent`; 0 for one that doesn't show.
+  // Inserts a row for the record at the end of `parent`; 0 for one that doesn't show, kRowsGone when the
+  // host, asked for a text of the row, has brought the rows to their end.
   using AddRow = std::function<platform::HTREEITEM(CIORec& record, platform::HTREEITEM parent)>;
   // Makes all rows below `parent` down to the bit fields, and reads from the file what hasn't been read.
   // The lists of all these records are final then. A fault of the file is told to the user in the midst of

@@ -37,23 +37,27 @@ class CRowTable {
   void Clear() { m_entries.clear(); }
 
   // Calls `visit` with the handle and the value of each row that has one. By index: a call may set or clear.
+  // Values that know how to be fetched from memory ahead of their turn are.
+  // A call that gives false is the last, and the table may be gone behind it.
   template <typename Visit>
   void ForEach(Visit visit) const {
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
-      // What the values point at lies anywhere: it is on its way from memory while those before it are
-      // visited.
-      if constexpr (std::is_pointer_v<Value>) {
-        if (i + kAhead < m_entries.size()) __builtin_prefetch(m_entries[i + kAhead].second);
+      if constexpr (requires(Value value) { value->Prefetch(); }) {
+        constexpr std::size_t kSteps = std::remove_pointer_t<Value>::kPrefetchSteps;
+        const Value ahead = i + kSteps < m_entries.size() ? m_entries[i + kSteps].second : nullptr;
+        if (ahead != nullptr) ahead->Prefetch();
       }
       if (m_entries[i].first == 0) continue;
       const Entry entry = m_entries[i];
-      visit(entry.first, entry.second);
+      if constexpr (std::is_void_v<decltype(visit(entry.first, entry.second))>) {
+        visit(entry.first, entry.second);
+      } else if (!visit(entry.first, entry.second)) {
+        return;
+      }
     }
   }
 
  private:
-  static constexpr std::size_t kAhead = 6;
-
   std::vector<Entry> m_entries;  // by row number; a handle of 0 for none
 };
 
