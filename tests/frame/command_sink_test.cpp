@@ -1,9 +1,9 @@
-// The window behind a view and its panes, between a host and its window manager.
+// The window behind a view and its panes, between a host, its window manager and its format dialog.
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 
 #include "frame/ui_debug_command_sink.h"
 #include "host/ids.h"
@@ -15,6 +15,7 @@ namespace pvw {
 namespace {
 
 using platform::HWND;
+using platform::ScopedBstr;
 using platform::WM_USER;
 using test::FakeHost;
 using testing::ElementsAre;
@@ -54,15 +55,18 @@ class Sink final : public CUiDebugCommandSink {
     m_panes.push_back(std::move(pane));
     return window;
   }
-  std::vector<bool> Held() const {
-    return {m_pNumberFormat != nullptr, m_pHostCommon != nullptr,  m_pPathService != nullptr,
-            m_pSettings != nullptr,     m_pSessionData != nullptr, m_pHostExtra != nullptr,
-            debugger != nullptr};
-  }
   void OnPaneLeaving(CPvwDebugInstanceDataCtrl& pane) override {
     static_cast<Pane&>(pane).fake.Begin("leave", static_cast<Pane&>(pane).name);
     if (leaving) leaving();
   }
+  platform::LRESULT WindowProc(const platform::MSG& msg) override {
+    if (msg.message == platform::WM_SETFONT && msg.wParam != 0) {
+      shown = *reinterpret_cast<const platform::CFont*>(msg.lParam);
+    }
+    return CUiDebugCommandSink::WindowProc(msg);
+  }
+  void LoseFont() { m_font.Delete(); }
+  platform::CFont shown;
   std::function<void()> leaving;
 };
 
@@ -97,18 +101,8 @@ class CommandSinkTest : public testing::Test {
   HWND dock = 0, all = 0, selected = 0;
 };
 
-TEST(CommandSink, StandsWithAHostThatLacksAnyOneThing) {
-  const platform::GUID kServices[] = {IID_IQNumberFormat, IID_IQHostCommon, IID_IQPathService, IID_IQSettings,
-                                      IID_IQDataManager,  IID_IQHostExtra,  IID_IQDebugger};
-  for (std::size_t i = 0; i < std::size(kServices); ++i) {
-    FakeHost host;
-    host.Lack(kServices[i]);
-    std::vector<bool> held(std::size(kServices), true);
-    held[i] = false;
-    EXPECT_EQ(Sink(&host, nullptr).Held(), held) << platform::GuidText(kServices[i]);
-  }
+TEST(CommandSink, StandsWithoutAHostAndWithOneThatGivesNoOwner) {
   Sink alone(nullptr, nullptr);
-  EXPECT_EQ(alone.Held(), std::vector<bool>(std::size(kServices), false));
   EXPECT_TRUE(alone.CreateSink()) << "without a main window too";
   EXPECT_EQ(alone.Send(WM_USER + 1), 1);
 
@@ -122,7 +116,6 @@ TEST(CommandSink, StandsWithAHostThatLacksAnyOneThing) {
 TEST_F(CommandSinkTest, ItsEndTakesThePanesThenWhatTheWindowAndItsOwnersHaveThenTheOwners) {
   EXPECT_EQ(sink->GetParent(), &main);
   EXPECT_EQ(sink->GetStyle(), platform::WS_CHILD) << "it isn't shown";
-  EXPECT_EQ(sink->GetId(), 1u);
   registrar.AddCommandStrings(nullptr, 2, CLSID_PvwIO);
   registrar.AddCommandSink(1, CLSID_PvwIO, sink->GetHandle());
   host.ClearTranscript();
@@ -136,9 +129,6 @@ TEST_F(CommandSinkTest, ItsEndTakesThePanesThenWhatTheWindowAndItsOwnersHaveThen
                   "window of selected is gone", "delete selected", "FreeOwnerId 5", "FreeOwnerId 6",
                   "RemoveCommandSink sink owner 1 PvwIO", "RemoveCommandStrings of the module owner 2 PvwIO",
                   "FreeOwnerId 1", "FreeOwnerId 2"));
-
-  CUiCommandSink plain(&host, &registrar);
-  ASSERT_TRUE(plain.CreateSink());
 }
 
 TEST_F(CommandSinkTest, TheHostRefreshesHidesAndClosesOnePaneByItsWindow) {
@@ -186,6 +176,77 @@ TEST_F(CommandSinkTest, EveryPaneIsToldInOrder) {
   EXPECT_THAT(host.Asked("refresh"),
               ElementsAre("refresh all", "refresh selected", "refresh all", "refresh all"))
       << "the second goes while the first shows its data";
+}
+
+// What the host's format dialog gets and sets: one font, and two kinds of text of which it is offered one.
+// Numbers that an operation leaves alone read -7.
+class FormatViewTest : public testing::Test {
+ protected:
+  // Of the item, or of the current one.
+  std::string Colours(const char* item) {
+    std::int32_t fg = -7;
+    std::int32_t bk = -7;
+    const ScopedBstr name(item != nullptr ? item : "");
+    EXPECT_EQ(item != nullptr ? client.GetItemColours(name.Get(), &fg, &bk)
+                              : client.GetCurrentItemColours(0, &fg, &bk),
+              0);
+    return std::to_string(fg) + " on " + std::to_string(bk);
+  }
+  std::string Font() {
+    ScopedBstr face;
+    std::int32_t size = -7;
+    const platform::Status status = client.GetFont(face.Receive(), &size);
+    return std::to_string(status) + ": " + face.Text() + " " + std::to_string(size);
+  }
+
+  Sink view{nullptr, nullptr};
+  IQFormatViewClient2& client = view;
+};
+
+TEST_F(FormatViewTest, OffersTheTextAloneAsAListOfVariantsByItsOwnFaces) {
+  platform::ScopedVariant items;
+  platform::VARIANT* list = items.Receive();
+  ASSERT_EQ(client.GetFormatItems(list), 0);
+  EXPECT_EQ(list->vt, 8200);
+  ASSERT_EQ(platform::SafeArrayGetCount(list->parray), 1u);
+  const platform::VARIANT* item = platform::SafeArrayVariantAt(list->parray, 0);
+  ASSERT_NE(item, nullptr) << "not a list of plain strings";
+  EXPECT_EQ(item->vt, platform::VT_BSTR);
+  EXPECT_EQ(platform::BstrText(item->bstrVal), "Text");
+
+  void* face = nullptr;
+  EXPECT_EQ(client.QueryInterface(&IID_IQFormatViewClient, &face), 0);
+  EXPECT_EQ(face, &client);
+  EXPECT_EQ(client.QueryInterface(&IID_IQIOServer, &face), platform::E_NOINTERFACE);
+  EXPECT_EQ(face, nullptr);
+}
+
+TEST_F(FormatViewTest, TheCurrentItemIsTheOneThatWasSetLast) {
+  EXPECT_EQ(Colours(nullptr), "-7 on -7") << "none yet";
+  for (const char* item : {"Text", "Selected Text", "text", ""}) {
+    SCOPED_TRACE(item);
+    client.SetSelectedTextColours(18, 17);
+    EXPECT_EQ(Colours(nullptr), "18 on 17") << "the short forms name their item";
+    const ScopedBstr name(item);
+    EXPECT_EQ(client.SetItemColours(name.Get(), 3, 4), 0);
+    EXPECT_EQ(Colours(item), *item == 'T' || *item == 'S' ? "3 on 4" : "-7 on -7");
+    EXPECT_EQ(Colours(nullptr), Colours(item));
+  }
+}
+
+TEST_F(FormatViewTest, AFontReplacesTheOneBeforeAndGoesToTheWindow) {
+  const ScopedBstr face("Fixed");
+  EXPECT_EQ(client.SetFont(face.Get(), 20), 0) << "before there is a window";
+  EXPECT_EQ(Font(), "0: Fixed 20");
+
+  ASSERT_TRUE(view.CreateSink());
+  EXPECT_EQ(client.SetDefaultFont(face.Get(), -14), 0);
+  EXPECT_EQ(Font(), "0: Fixed 14");
+  EXPECT_EQ(view.shown.Get(), (platform::LOGFONT{-14, 0, 0, "Fixed"})) << "no width from the font before";
+  EXPECT_EQ(client.SetFont(nullptr, std::numeric_limits<std::int32_t>::min()), 0);
+  EXPECT_EQ(Font(), "0:  -2147483648");
+  view.LoseFont();
+  EXPECT_EQ(Font(), "1:  -7");
 }
 
 }  // namespace

@@ -2,15 +2,12 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <vector>
 
 #include "platform/base/bstr.h"
 #include "platform/base/guid.h"
-#include "platform/base/message_box.h"
 #include "platform/base/system.h"
 #include "platform/base/variant.h"
 #include "tests/platform/base/scratch.h"
-#include "tests/support/recording_presenter.h"
 
 namespace platform {
 namespace {
@@ -23,54 +20,44 @@ TEST(GuidTest, TextGoesBothWays) {
   EXPECT_THAT(kGuid.data4, testing::ElementsAre(0x8A, 0xF5, 0x00, 0xAA, 0x00, 0x26, 0x62, 0x4A));
   EXPECT_EQ(GuidText(kGuid), kText);
   EXPECT_EQ(ParseGuid("{80d58c53-e47d-11d3-8af5-00aa0026624a}"), kGuid);
-  for (const char* text : {"80D58C53-E47D-11D3-8AF5-00AA0026624A", "{80D58C53-E47D-11D3-8AF5-00AA0026624}",
-                           "{80D58C53-E47D-11D3-8AF5-00AA0026624G}", "{80D58C53+E47D-11D3-8AF5-00AA0026624A}",
-                           "{80D58C53-E47D-11D3-8AF5-00AA0026624A} "}) {
+  for (const char* text :
+       {"80D58C53-E47D-11D3-8AF5-00AA0026624A", "{80D58C53-E47D-11D3-8AF5-00AA0026624G}",
+        "{80D58C53+E47D-11D3-8AF5-00AA0026624A}", "{80D58C53-E47D-11D3-8AF5-00AA0026624A} "}) {
     EXPECT_EQ(ParseGuid(text), std::nullopt) << text;
   }
 }
 
-TEST(BstrTest, CarriesItsLengthInFront) {
-  const ScopedBstr text(std::u16string_view(u"a\0\u3042", 3));
+TEST(BstrTest, CarriesItsLengthInFrontAndGoesThroughThePage) {
+  ScopedBstr text(std::u16string_view(u"a\0\u00e9", 3));
   EXPECT_EQ(SysStringLen(text.Get()), 3u);
   EXPECT_EQ(text.Get()[3], 0);
   std::uint32_t bytes = 0;
   std::memcpy(&bytes, reinterpret_cast<const char*>(text.Get()) - 4, 4);
   EXPECT_EQ(bytes, 6u);
   EXPECT_EQ(reinterpret_cast<std::uintptr_t>(text.Get()) % 16, 0u);
-  EXPECT_EQ(text.Text(), std::string("a\0\u3042", 5));
-}
-
-TEST(BstrTest, NullIsTheEmptyTextAndTextGoesThroughThePage) {
   EXPECT_EQ(BstrText(nullptr), "");
   EXPECT_NE(ScopedBstr("").Get(), nullptr);
   const CodePageScope scope(1252);
-  ScopedBstr text("caf\xE9");
-  EXPECT_EQ(std::u16string_view(text.Get()), u"caf\u00e9");
+  EXPECT_EQ(text.Text(), std::string("a\0\xE9", 3));
   *text.Receive() = NewBstr("na\xEFve");  // frees the one before
-  EXPECT_EQ(text.Text(), "na\xEFve");
+  EXPECT_EQ(std::u16string_view(text.Get()), u"na\u00efve");
 }
 
 TEST(VariantTest, AnArrayOwnsItsElementsOfOneType) {
   ScopedVariant list;
   SAFEARRAY* array = SafeArrayCreateVector(VT_VARIANT, 2);
   *list.Receive() = VARIANT{VT_ARRAY | VT_BSTR, {.parray = array}};  // the array itself says what it holds
-  EXPECT_EQ(SafeArrayGetCount(array), 2u);
   EXPECT_EQ(SafeArrayVariantAt(array, 1)->vt, VT_EMPTY);
   *SafeArrayVariantAt(array, 0) = VARIANT{VT_BSTR, {NewBstr("freed with the array")}};
   EXPECT_EQ(SafeArrayVariantAt(array, 2), nullptr);
   EXPECT_EQ(SafeArrayBstrAt(array, 0), nullptr);
-  EXPECT_EQ(list.Receive()->vt, VT_EMPTY);
 
   array = SafeArrayCreateVector(VT_BSTR, 2);
   *list.Receive() = VARIANT{VT_ARRAY | VT_BSTR, {.parray = array}};
-  EXPECT_EQ(*SafeArrayBstrAt(array, 1), nullptr);
   *SafeArrayBstrAt(array, 1) = NewBstr("freed with the array");
   EXPECT_EQ(SafeArrayVariantAt(array, 0), nullptr);
-
   EXPECT_EQ(SafeArrayCreateVector(VT_UI1, 1), nullptr);
   EXPECT_EQ(SafeArrayCreateVector(VT_BSTR, ~std::size_t{0}), nullptr);
-  EXPECT_EQ(SafeArrayVariantAt(nullptr, 0), nullptr);
 }
 
 TEST(VariantTest, NestingOfAnyDepthIsFreed) {
@@ -85,22 +72,11 @@ TEST(VariantTest, NestingOfAnyDepthIsFreed) {
   EXPECT_EQ(outer.vt, VT_EMPTY);
 }
 
-TEST(MessageBoxTest, GoesToThePresenterThatCounts) {
-  pvw::test::RecordingPresenter recorder;
-  EXPECT_EQ(SetMessagePresenter(nullptr), &recorder);
-  MessageBox("shown nowhere");
-  SetMessagePresenter(&recorder);
-  MessageBox("Load failed.", MB_ICONSTOP, "I/O");
-  MessageBeep();
-  EXPECT_THAT(recorder.Lines(), testing::ElementsAre("message [stop] \"I/O\": Load failed.", "beep"));
-}
-
 class SystemTest : public ScratchTest {
  protected:
-  ~SystemTest() override {
-    System() = SystemRecord{};
-    tmpdir_.empty() ? unsetenv("TMPDIR") : setenv("TMPDIR", tmpdir_.c_str(), 1);
-  }
+  ~SystemTest() override { tmpdir_.empty() ? unsetenv("TMPDIR") : setenv("TMPDIR", tmpdir_.c_str(), 1); }
+
+  pvw::test::SystemAnswers system;
 
  private:
   const std::string tmpdir_ = std::getenv("TMPDIR") != nullptr ? std::getenv("TMPDIR") : "";
@@ -114,19 +90,19 @@ TEST_F(SystemTest, TheMachineAnswersWhatTheRecordLeavesOpen) {
   SetDriveRoot('c', root + "/c");
   SetDriveRoot('d', "");
   EXPECT_EQ(GetTempPath(), "c:\\windows\\") << "no drive shows the machine's own";
-  System().temp_directory = "q:\\temp\\";
+  system->temp_directory = "q:\\temp\\";
   EXPECT_EQ(GetTempPath(), "q:\\temp\\");
 
   setenv("USER", "j\u00f6rg", 1);
   const CodePageScope scope(1252);
   EXPECT_EQ(GetUserName(), "j\xF6rg");
-  System().user = "anna";
+  system->user = "anna";
   EXPECT_EQ(GetUserName(), "anna");
 }
 
 TEST_F(SystemTest, TheProfileKnowsTheLanguageAlone) {
   EXPECT_EQ(GetProfileString("INTL", "slanguage", "xyz", 9), "eng");
-  System().language = "japanese.long";
+  system->language = "japanese.long";
   EXPECT_EQ(GetProfileString("intl", "sLanguage", "eng", 9), "japanese");
   EXPECT_EQ(GetProfileString("intl", "sLanguage", "eng", 0), "");
   EXPECT_EQ(GetProfileString("intl", "sCountry", "none", 9), "none");

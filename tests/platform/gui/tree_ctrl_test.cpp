@@ -1,7 +1,3 @@
-#include "platform/gui/tree_ctrl.h"
-
-#include <gtest/gtest.h>
-
 #include "tests/platform/gui/tree_stage.h"
 
 namespace platform {
@@ -52,7 +48,6 @@ TEST_F(TreeCtrl, TheOwnerMayChangeTheRowsWhileOneOpens) {
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
-    tree.DeleteAllItems();
     Fill("A\n  null\nZ\n");
     Answer(TVN_ITEMEXPANDING, 0, c.change);
     EXPECT_EQ(tree.Expand(Item("A"), TVE_EXPAND), c.opens);
@@ -89,8 +84,6 @@ TEST_F(TreeCtrl, CellsAndColumnsHoldOddValues) {
   tree.SetItemText(Item("A"), 3, tree.GetItemText(Item("A"), 0));
   EXPECT_EQ(tree.GetItemText(Item("A"), 3), "A") << "its own text, moved meanwhile";
   for (const int column : {-1, 1'000'000}) tree.SetItemText(Item("A"), column, "x");
-  tree.SetColumnWidth(1, -2147483647 - 1);
-  EXPECT_EQ(tree.GetColumnWidth(1), 0);
   for (int i = 0; i < 30; ++i) tree.InsertColumn(99, "more", TextAlign::Left, 2147483647);
   EXPECT_EQ(tree.GetColumnCount(), SECTreeCtrl::kMostColumns);
 }
@@ -98,13 +91,10 @@ TEST_F(TreeCtrl, CellsAndColumnsHoldOddValues) {
 TEST_F(TreeCtrl, ScrollPositionsStayInRange) {
   MakeGrid();  // 11 rows in view, columns of 500 in 520 pixels
   for (int i = 0; i < 20; ++i) tree.InsertItem("row", 2);
-  const auto rows_after = [&](UINT message, int value) {
-    tree.Send(message, static_cast<WPARAM>(value));
-    return tree.GetScrollPos(true);
-  };
-  EXPECT_EQ(rows_after(WM_VSCROLL, 2147483647), 9);
-  EXPECT_EQ(rows_after(WM_MOUSEWHEEL, 3), 6);
-  EXPECT_EQ(rows_after(WM_VSCROLL, -5), 0);
+  tree.Send(WM_VSCROLL, 2147483647);
+  EXPECT_EQ(tree.GetScrollPos(true), 9);
+  tree.Send(WM_MOUSEWHEEL, 30);
+  EXPECT_EQ(tree.GetScrollPos(true), 0);
   tree.EnsureVisible(tree.GetItemAtRow(15));
   EXPECT_EQ(tree.GetScrollPos(true), 5);
   tree.SetColumnWidth(1, 400);
@@ -124,7 +114,7 @@ TEST_F(TreeCtrl, RowsAsDeepAsTheyAreManyArePaintedAndDeleted) {
     item = child;
   }
   tree.SelectItem(item);
-  const std::string painted = Painted(0, 206);
+  const std::string painted = PaintedText(tree, 0, 206);
   EXPECT_EQ(painted.find("text"), std::string::npos) << "the names lie far to the right";
   EXPECT_LT(painted.size(), 5'000U);
   EXPECT_TRUE(tree.Expand(tree.GetRootItem(), TVE_COLLAPSE));

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "platform/base/message_box.h"
 #include "tests/platform/gui/tree_stage.h"
 
@@ -9,19 +7,9 @@ namespace {
 class TreeEdit : public TreeStage {
  public:
   TreeEdit() { Reset(); }
-  void Reset() {
-    answers.clear();
-    CreateTree();
-    tree.EndEdit(false);
-    tree.DeleteAllItems();
-    if (tree.GetColumnCount() == 1) MakeGrid();
-    Fill("A\n  B|1000|FF|RW\n  C\nD\n");
-    tree.Expand(Item("A"), TVE_EXPAND);
-    FocusTree();
-    Story();
-  }
   // Opens the edit of B's value with "12" typed over it.
   void Open() {
+    FocusTree();
     EXPECT_TRUE(tree.EditCell(Item("B"), 2));
     user::TypeText("12");
     Story();
@@ -148,18 +136,6 @@ TEST_F(TreeEdit, FollowsItsCell) {
   EXPECT_EQ(place().Width(), 100) << "scrolled into view";
   EXPECT_TRUE(tree.EditCell(tree.GetItemAtRow(20), 0));
   EXPECT_EQ(tree.GetScrollPos(false), 0) << "and back";
-}
-
-TEST_F(TreeEdit, AnEditOfItsOwnKindMayOutliveTheFocus) {
-  struct Lasting : SECListEdit {
-    bool EndsWithFocus() const override { return false; }
-  };
-  tree.SetListEdit(std::make_unique<Lasting>());
-  Open();
-  SetFocus(owner.GetHandle());
-  EXPECT_TRUE(tree.IsEditing());
-  tree.DestroyWindow();
-  EXPECT_EQ(Story(), "DESTROY");
 }
 
 }  // namespace

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <sstream>
 
 #include "platform/gui/tree_layout.h"
@@ -12,13 +10,11 @@ class TreePaint : public TreeStage {
  public:
   TreePaint() {
     MakeGrid();
-    Fill("PORT\n  DATA|1000|FF|RW\n    BIT0|0|1\n    BIT1\n  DIR\nTIMER\n");
-    tree.Expand(Item("PORT"), TVE_EXPAND);
-    tree.Expand(Item("DATA"), TVE_EXPAND);
+    Fill("-PORT\n  -DATA|1000|FF|RW\n    BIT0|0|1\n    BIT1\n  DIR\nTIMER\n");
   }
   std::string PaintedRow(const std::string& name) {
     const RECT cell = tree.GetCellRect(Item(name), 0);
-    return Painted(cell.top, cell.bottom);
+    return PaintedText(tree, cell.top, cell.bottom);
   }
   std::string Lines(const std::string& name) {
     std::istringstream in(PaintedRow(name));
@@ -46,19 +42,6 @@ class TreePaint : public TreeStage {
     return cells + ']';
   }
 };
-
-TEST_F(TreePaint, AnOpenRowHasItsLinesBoxAndPictureAndIsRedThroughout) {
-  tree.red = Item("DATA");
-  EXPECT_EQ(PaintedRow("DATA"),
-            "fill 0,36,200,53 FFFFFF\n"
-            "dots 28,45,39,46\ndots 28,37,29,45\ndots 28,45,29,53\n"
-            "box 24,41,33,50 \"-\"\nimage 40,36,56,52 \"0\"\n"
-            "fill 56,36,200,53 FFFFFF\ntext 59,37,197,54 0000FF \"DATA\"\n"
-            "fill 200,36,300,53 FFFFFF\ntext 206,36,295,53 0000FF \"1000\"\n"
-            "fill 300,36,400,53 FFFFFF\ntext 306,36,395,53 0000FF \"FF\"\n"
-            "fill 400,36,500,53 FFFFFF\ntext 406,36,495,53 0000FF \"RW\"\n"
-            "fill 500,36,520,53 FFFFFF\n");
-}
 
 TEST_F(TreePaint, LinesRunPastTheRowsBelow) {
   const std::string kLastBit =
@@ -94,7 +77,8 @@ TEST_F(TreePaint, HiddenNarrowAndScrolledColumns) {
   tree.SetColumnWidth(1, 0);
   EXPECT_EQ(CellsOf("BIT0"),
             "[76-200 FFFFFF|BIT0 000000] [200-300 FFFFFF|1 000000] [300-400 FFFFFF] [400-520 FFFFFF]");
-  EXPECT_TRUE(Painted(0, 19).starts_with("header 0,0,200,19 \"Name\"\nheader 200,0,300,19 \"Value\"\n"));
+  EXPECT_TRUE(
+      PaintedText(tree, 0, 19).starts_with("header 0,0,200,19 \"Name\"\nheader 200,0,300,19 \"Value\"\n"));
   tree.SetColumnWidth(0, 62);  // ends within the picture
   EXPECT_TRUE(CellsOf("BIT0").starts_with("[62-162 FFFFFF"));
   tree.SetColumnWidth(0, 400);
@@ -116,7 +100,7 @@ TEST_F(TreePaint, OneColumnWithBoxesAsInADialog) {
             "check 20,2,33,15 \"x\"\nimage 37,0,53,16 \"0\"\n"  // there is no picture 9
             "fill 53,0,83,17 FFFFFF\ntext 56,1,80,18 000000 \"PORT\"\n");
   EXPECT_EQ(CellsOf("DIR"), "[57-81 FFFFFF|DIR 000000]");
-  EXPECT_EQ(Painted(102, 206), "fill 0,102,520,206 FFFFFF\n") << "below the rows";
+  EXPECT_EQ(PaintedText(tree, 102, 206), "fill 0,102,520,206 FFFFFF\n") << "below the rows";
 }
 
 TEST(TreeText, OneLineOf259WholeCharactersWithoutTabs) {

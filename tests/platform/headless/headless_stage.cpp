@@ -10,31 +10,22 @@ namespace platform::conformance {
 
 namespace {
 
-// Does something once its message comes.
-class Later final : public CWnd {
+class BoxDisplay final : public HeadlessDisplay {
  public:
-  ~Later() override { DestroyWindow(); }
-  void Post(std::function<void()> then) {
-    if (!Exists()) Create({WS_POPUP, 0, {}, 0, 0, {}});
-    m_then = std::move(then);
-    PostMessage(GetHandle(), WM_USER);
+  using HeadlessDisplay::HeadlessDisplay;
+  void RunMessageBox(const MessageBoxRequest& request, const std::function<void()>& opened) override {
+    HeadlessDisplay::RunMessageBox(request, [&] {
+      opened();
+      if (in_box) std::exchange(in_box, nullptr)();
+    });
   }
-  LRESULT WindowProc(const MSG& msg) override {
-    if (msg.message == WM_USER) std::exchange(m_then, nullptr)();
-    return CWnd::WindowProc(msg);
-  }
-
- private:
-  std::function<void()> m_then;
+  std::function<void()> in_box;
 };
 
 class HeadlessStage final : public Stage {
  public:
   HeadlessStage() { SetDisplay(&m_display); }
-  ~HeadlessStage() override {
-    m_later.DestroyWindow();
-    SetDisplay(nullptr);
-  }
+  ~HeadlessStage() override { SetDisplay(nullptr); }
 
   void Press(CWnd& window, POINT at) override { Do({window.GetHandle(), WM_LBUTTONDOWN, 0, PointParam(at)}); }
   void Release(CWnd& window, POINT at) override { Do({window.GetHandle(), WM_LBUTTONUP, 0, PointParam(at)}); }
@@ -53,7 +44,7 @@ class HeadlessStage final : public Stage {
     for (std::function<void(CDialog&)>& step : steps) answer.steps.emplace_back(std::move(step));
     m_display.Give(std::move(answer));
   }
-  void InNextBox(std::function<void()> then) override { m_in_box = std::move(then); }
+  void InNextBox(std::function<void()> then) override { m_display.in_box = std::move(then); }
 
  private:
   void Do(const MSG& input) {
@@ -61,18 +52,8 @@ class HeadlessStage final : public Stage {
     m_display.Settle();
   }
 
-  void OnLine(const std::string& line) {
-    Note(line);
-    if (!line.starts_with("message") || !m_in_box) return;
-    // The box hasn't taken the focus yet; posted messages come when it has.
-    m_later.Post(std::exchange(m_in_box, nullptr));
-  }
-
-  Later m_later;
-  std::function<void()> m_in_box;
-  HeadlessDisplay m_display{HeadlessDisplay::Unanswered::Fail,
-                            [this](const std::string& line) { OnLine(line); },
-                            [](const std::string& text) { ADD_FAILURE() << text; }};
+  BoxDisplay m_display{HeadlessDisplay::Unanswered::Fail, &Note,
+                       [](const std::string& text) { ADD_FAILURE() << text; }};
 };
 
 }  // namespace

@@ -66,13 +66,6 @@ QWidget* WidgetAt(CWnd& window) {
   return widget;
 }
 
-void SendMouse(CWnd& window, QEvent::Type type, POINT at, Qt::MouseButton button) {
-  QWidget* widget = WidgetAt(window);
-  const QPointF where(at.x, at.y);
-  QMouseEvent event(type, where, widget->mapToGlobal(where), button, Qt::LeftButton, {});
-  QCoreApplication::sendEvent(widget, &event);
-}
-
 }  // namespace
 
 void Settle() {
@@ -104,15 +97,12 @@ void Click(CWnd& window, POINT at, bool right) {
   if (window.Exists()) Release(window, at, right);
 }
 
-void DoubleClick(CWnd& window, POINT at) {
-  Click(window, at);
-  SendMouse(window, QEvent::MouseButtonDblClick, at, Qt::LeftButton);
-  Release(window, at);
-}
-
 void Drag(CWnd& window, POINT from, POINT to) {
   Press(window, from);
-  SendMouse(window, QEvent::MouseMove, to, Qt::NoButton);
+  QWidget* widget = WidgetAt(window);
+  const QPointF where(to.x, to.y);
+  QMouseEvent move(QEvent::MouseMove, where, widget->mapToGlobal(where), Qt::NoButton, Qt::LeftButton, {});
+  QCoreApplication::sendEvent(widget, &move);
   Release(window, to);
 }
 

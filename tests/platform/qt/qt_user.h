@@ -20,7 +20,6 @@ void Wait(UINT milliseconds);
 void Press(CWnd& window, POINT at, bool right = false);
 void Release(CWnd& window, POINT at, bool right = false);
 void Click(CWnd& window, POINT at, bool right = false);
-void DoubleClick(CWnd& window, POINT at);
 void Drag(CWnd& window, POINT from, POINT to);
 void Wheel(CWnd& window, POINT at, int lines);
 

@@ -21,7 +21,6 @@ PVW_EXPORT pvw::test::HelpModule* GetHelpModule() {
   return &the_module;
 }
 
-#ifndef PVW_WITHOUT_ENTRY
 PVW_EXPORT std::uintptr_t ordinal_14(platform::HWND window, const char* path, std::uint32_t command,
                                      std::uintptr_t data) {
   std::string line = "html " + std::to_string(window) + " " + path + " " + std::to_string(command) + ":";
@@ -36,7 +35,6 @@ PVW_EXPORT std::uintptr_t ordinal_14(platform::HWND window, const char* path, st
   Note(line);
   return the_module.result;
 }
-#endif
 
 PVW_EXPORT bool WinHelp(platform::HWND window, const char* path, std::uint32_t command, std::uint32_t data) {
   Note("win " + std::to_string(window) + " " + path + " " + std::to_string(command) + " " +

@@ -11,6 +11,7 @@ struct CPickDialog : Traced<CDialog> {
   const MessageTable& GetMessageTable() const override { return kMessages; }
   void OnMore() { Note("more"); }
   void OnOwnOk() { Note("ok"); }
+  void OnCancel() override { Note("asked"); }
 };
 const MessageTable CPickDialog::kMessages{&CDialog::kMessages,
                                           {
@@ -35,22 +36,36 @@ class DialogKeys : public Scenario {
   }
 };
 
-TEST_F(DialogKeys, TabGoesRoundTheControlsThatCanHaveTheFocus) {
+TEST_F(DialogKeys, TabGoesRoundAndAltWithALetterGoesWhereItIsUnderlined) {
   CDialog dialog(kNameDialog, nullptr);
   Run(dialog, [&](CDialog& open) {
+    auto& box = static_cast<CCheckBox&>(*open.GetDlgItem(kAll));
+    stage->Key('A', MK_ALT);
+    EXPECT_EQ(FocusId(), kAll);
+    EXPECT_TRUE(box.GetCheck()) << "a check box is turned";
+    stage->KeyDown(VK_SPACE, 0);
+    EXPECT_TRUE(box.GetCheck());
+    stage->KeyUp(VK_SPACE, 0);
+    EXPECT_FALSE(box.GetCheck()) << "and by a space when it is let go";
+    stage->Key('N', MK_ALT);
+    EXPECT_EQ(FocusId(), kName) << "a label leads to the control behind it";
+    stage->Key('Z', MK_ALT);
+    EXPECT_EQ(FocusId(), kName) << "a letter that nobody has does nothing";
+
     std::string visited;
-    const auto tab = [&](UINT modifiers) {
-      stage->Key(VK_TAB, modifiers);
-      visited += " " + std::to_string(FocusId());
+    const auto tab = [&](int times, UINT modifiers) {
+      for (int i = 0; i < times; ++i) {
+        stage->Key(VK_TAB, modifiers);
+        visited += " " + std::to_string(FocusId());
+      }
     };
-    EXPECT_EQ(FocusId(), kName);
-    for (int i = 0; i < 4; ++i) tab(0);
+    tab(4, 0);
     visited += " back";
-    for (int i = 0; i < 3; ++i) tab(MK_SHIFT);
-    open.GetDlgItem(kAll)->EnableWindow(false);
+    tab(3, MK_SHIFT);
+    box.EnableWindow(false);
     open.GetDlgItem(IDOK)->ShowWindow(false);
     visited += " without two";
-    for (int i = 0; i < 2; ++i) tab(0);
+    tab(2, 0);
     EXPECT_EQ(visited, " 12 1 2 11 back 2 1 12 without two 2 11");
   });
 }
@@ -67,41 +82,12 @@ TEST_F(DialogKeys, EnterPressesTheButtonWithTheFocusElseTheDefaultOne) {
     EXPECT_EQ(enter(kMore), "dialog BN_CLICKED 14\nmore\n") << "on a button that one";
     open.GetDlgItem(kOwnOk)->EnableWindow(false);
     EXPECT_EQ(enter(kPick), "") << "a default button that is disabled isn't pressed";
-  });
-}
-
-TEST_F(DialogKeys, AltAndALetterGoWhereItIsUnderlined) {
-  CDialog names(kNameDialog, nullptr);
-  Run(names, [&](CDialog& open) {
-    auto& box = static_cast<CCheckBox&>(*open.GetDlgItem(kAll));
-    stage->Key('A', MK_ALT);
-    EXPECT_EQ(FocusId(), kAll);
-    EXPECT_TRUE(box.GetCheck()) << "a check box is turned";
-    stage->KeyDown(VK_SPACE, 0);
-    EXPECT_TRUE(box.GetCheck());
-    stage->KeyUp(VK_SPACE, 0);
-    EXPECT_FALSE(box.GetCheck()) << "and by a space when it is let go";
-    stage->Key('N', MK_ALT);
-    EXPECT_EQ(FocusId(), kName) << "a label leads to the control behind it";
-    stage->Key('Z', MK_ALT);
-    EXPECT_EQ(FocusId(), kName) << "a letter that nobody has does nothing";
-  });
-  CPickDialog picks;
-  Run(picks, [&](CDialog&) {
     stage->Key('M', MK_ALT);
     EXPECT_EQ(FocusId(), kMore);
-    EXPECT_EQ(Story(), "dialog BN_CLICKED 14\nmore\n") << "a button is pressed";
-  });
-}
-
-TEST_F(DialogKeys, ACloseIsACancelWhichTheDialogMayRefuse) {
-  struct CStubborn : CDialog {
-    CStubborn() : CDialog(kNameDialog, nullptr) {}
-    void OnCancel() override { Note("asked"); }
-  } dialog;
-  Run(dialog, [](CDialog& open) {
+    EXPECT_EQ(Story(), "dialog BN_CLICKED 14\nmore\n") << "a button is pressed by its letter";
     open.Send(WM_CLOSE);
-    EXPECT_EQ(Story(), "asked\n");
+    EXPECT_EQ(Story(), "dialog CLOSE\ndialog COMMAND 2\nasked\n")
+        << "a close is a cancel, which the dialog may refuse";
     EXPECT_TRUE(open.Exists());
   });
 }

@@ -65,59 +65,32 @@ TEST_F(Threads, AMessageOfAnotherThreadRunsOnOursWhileTheSenderWaits) {
   EXPECT_EQ(Settled(), "pane USER+1\n");
 }
 
-// Opens rows from a worker until it is cancelled, or all are open.
-class CRowsDialog : public CDialog {
- public:
-  CRowsDialog() : CDialog(kEmptyDialog, nullptr) {}
-  static const MessageTable kMessages;
-  const MessageTable& GetMessageTable() const override { return kMessages; }
-  void OnInitDialog() override {
-    worker.Start([this] {
-      bool more = true;
-      while (more) {
-        gui::CallUi([&] {
-          more = remaining > 0;
-          if (!more) return;
-          --remaining;
-          if (cancelled) ++opened_after_cancel;
-        });
-      }
-    });
-  }
-  void OnCancel() override {
-    cancelled = true;
-    remaining = 0;
-    CDialog::OnCancel();
-  }
-  LRESULT OnDestroy(const MSG& msg) {
-    const LRESULT result = Default(msg, kMessages);
-    remaining = 0;
-    worker.Join();
-    return result;
-  }
-  int remaining = 20;
-  int opened_after_cancel = 0;
-  bool cancelled = false;
-  gui::Worker worker;
-};
-const MessageTable CRowsDialog::kMessages{&CDialog::kMessages,
-                                          {OnMessage<&CRowsDialog::OnDestroy>(WM_DESTROY)}};
-
-TEST_F(Threads, NothingOpensAfterCancel) {
+TEST_F(Threads, ADialogMayEndWithItsWorkerAtWork) {
+  const std::thread::id ours = std::this_thread::get_id();
   for (int round = 0; round < 500; ++round) {
-    CRowsDialog dialog;
-    stage->InNextDialog({[](CDialog& open) { open.Send(WM_COMMAND, IDCANCEL); }});
-    EXPECT_EQ(dialog.DoModal(), static_cast<int>(IDCANCEL));
-    ASSERT_EQ(dialog.opened_after_cancel, 0) << "in round " << round;
+    Traced<CDialog> dialog("dialog", kEmptyDialog, nullptr);
+    gui::Worker worker;
+    bool over = false;
+    bool elsewhere = false;
+    dialog.During(WM_DESTROY, [&] {
+      over = true;
+      worker.Join();
+    });
+    stage->InNextDialog({[&](CDialog& open) {
+      worker.Start([&] {
+        for (bool more = true; more;) {
+          gui::CallUi([&] {
+            more = !over;
+            elsewhere = elsewhere || std::this_thread::get_id() != ours;
+          });
+        }
+      });
+      round % 2 == 0 ? static_cast<void>(open.Send(WM_COMMAND, IDCANCEL)) : open.DestroyWindow();
+    }});
+    ASSERT_EQ(dialog.DoModal(), static_cast<int>(IDCANCEL)) << "in round " << round;
+    EXPECT_FALSE(elsewhere);
     Story();
   }
-}
-
-TEST_F(Threads, ADialogMayGoWithItsWorkerAtWork) {
-  CRowsDialog dialog;
-  dialog.remaining = 1'000'000'000;
-  stage->InNextDialog({[](CDialog& open) { open.DestroyWindow(); }});
-  EXPECT_EQ(dialog.DoModal(), static_cast<int>(IDCANCEL));
 }
 
 }  // namespace

@@ -11,19 +11,6 @@ using testing::ElementsAre;
 
 class Windows : public Scenario {};
 
-TEST_F(Windows, AWindowHearsOfItsEndBeforeItsChildrenInTheirOrder) {
-  Traced<CWnd> pane("pane");
-  Traced<CWnd> first("first");
-  Traced<CWnd> second("second");
-  Add(pane, 1);
-  first.Create({.parent = pane.GetHandle(), .id = 2});
-  second.Create({.parent = pane.GetHandle(), .id = 3});
-  Story();
-  pane.DestroyWindow();
-  EXPECT_EQ(Story(), "pane DESTROY\nfirst DESTROY\nsecond DESTROY\n");
-  EXPECT_THAT(main.GetChildren(), ElementsAre());
-}
-
 TEST_F(Windows, AHandleFindsNothingOnceItsSlotIsUsedAgain) {
   Traced<CWnd> old("old");
   Add(old, 1);
