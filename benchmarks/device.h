@@ -6,10 +6,10 @@
 #include <cstdint>
 #include <string>
 
+#include "benchmarks/definition_generator.h"
 #include "ioview/host/host_services.h"
 #include "model/io_data.h"
 #include "model/io_data_file.h"
-#include "tests/support/definition_generator.h"
 
 namespace bench {
 
@@ -21,7 +21,7 @@ class Definition {
   Definition& operator=(const Definition&) = delete;
   ~Definition();
 
-  const pvw::test::DefinitionShape& Shape() const { return m_shape; }
+  const DefinitionShape& Shape() const { return m_shape; }
   const std::string& NativePath() const { return m_native; }
   const std::string& Path() const { return m_path; }
   // Names one register in so many, and every module, in the form that a session keeps.
@@ -32,7 +32,7 @@ class Definition {
   int FieldCount() const;
 
  private:
-  pvw::test::DefinitionShape m_shape;
+  DefinitionShape m_shape;
   std::string m_native;
   std::string m_path;
 };

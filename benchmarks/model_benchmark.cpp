@@ -75,7 +75,7 @@ void Open(benchmark::State& state) {
 // ask.
 void ScanLookup(benchmark::State& state) {
   const Definition definition(Version(state), Registers(state));
-  const pvw::test::DefinitionShape& shape = definition.Shape();
+  const DefinitionShape& shape = definition.Shape();
   int next = 0;
   for (auto _ : state) {
     next = (next + 7919) % shape.registers;

@@ -32,7 +32,7 @@ Definition DefinitionOf(const benchmark::State& state) {
 // Names as the test client knows registers by: the generator makes no two alike.
 std::vector<std::string> SomeNames(const Definition& definition) {
   std::vector<std::string> names;
-  const pvw::test::DefinitionShape& shape = definition.Shape();
+  const DefinitionShape& shape = definition.Shape();
   for (int r = 0; r < shape.registers; r += kOneIn) {
     const std::string module = std::to_string(r / shape.registersPerModule + 1);
     names.push_back("M" + module + "R" + std::to_string(r % shape.registersPerModule));

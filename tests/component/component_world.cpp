@@ -23,12 +23,14 @@ constexpr const char* kDefinition =
 ComponentFile::ComponentFile(const std::string& native)
     : module(platform::LoadLibrary(platform::FromNativePath(native).value())) {
   EXPECT_NE(module, nullptr) << native;
-  const auto find = [&](const char* name) { return platform::GetProcAddress(module, name); };
-  LibraryRegister2 = reinterpret_cast<decltype(LibraryRegister2)>(find("LibraryRegister2"));
-  QueryInterface2 = reinterpret_cast<decltype(QueryInterface2)>(find("QueryInterface2"));
-  CreateInstance = reinterpret_cast<decltype(CreateInstance)>(find("CreateInstance"));
-  DestroyInstance = reinterpret_cast<decltype(DestroyInstance)>(find("DestroyInstance"));
-  GetComponentVersion = reinterpret_cast<decltype(GetComponentVersion)>(find("GetComponentVersion"));
+  const auto find = [&](auto*& function, const char* name) {
+    function = platform::GetProc<std::remove_reference_t<decltype(*function)>>(module, name);
+  };
+  find(LibraryRegister2, "LibraryRegister2");
+  find(QueryInterface2, "QueryInterface2");
+  find(CreateInstance, "CreateInstance");
+  find(DestroyInstance, "DestroyInstance");
+  find(GetComponentVersion, "GetComponentVersion");
 }
 
 ComponentFile::~ComponentFile() {
@@ -46,27 +48,22 @@ World::World() {
   host.paths.configuration_directory = dir.Path();
 }
 
-void World::LoadSession() {
-  const ScopedBstr workspace("ws"), project("prj"), name("night"), configuration("cfg");
+void World::LoadSession(const char* project, const char* configuration) {
   if (Sessions() == nullptr) return;
-  EXPECT_EQ(Sessions()->LoadSessionData(workspace.Get(), project.Get(), name.Get(), configuration.Get()), 0);
+  EXPECT_EQ(Sessions()->LoadSessionData(ScopedBstr("ws").Get(), ScopedBstr(project).Get(),
+                                        ScopedBstr("night").Get(), ScopedBstr(configuration).Get()),
+            0);
 }
 
 void World::SaveSession() {
-  const ScopedBstr workspace("ws"), project("prj"), configuration("cfg");
   if (Sessions() == nullptr) return;
-  EXPECT_EQ(Sessions()->SaveSessionData(workspace.Get(), project.Get(), configuration.Get()), 0);
+  EXPECT_EQ(
+      Sessions()->SaveSessionData(ScopedBstr("ws").Get(), ScopedBstr("prj").Get(), ScopedBstr("cfg").Get()),
+      0);
 }
 
 void World::OpenView() {
   platform::SendMessage(host.Ui().SinkOf(kOpenView), platform::WM_COMMAND, kOpenView);
-}
-
-bool World::CanOpenView() const {
-  platform::CWnd* const sink = platform::CWnd::FromHandle(const_cast<FakeHost&>(host).Ui().SinkOf(kOpenView));
-  platform::CCmdUI ui(kOpenView);
-  EXPECT_TRUE(sink != nullptr && sink->UpdateCommand(ui));
-  return ui.IsEnabled();
 }
 
 std::size_t World::PaneCount() {
@@ -74,7 +71,7 @@ std::size_t World::PaneCount() {
 }
 
 platform::HWND World::Pane(std::size_t pane) {
-  return pane < PaneCount() ? host.Ui().Pages(Dock()->window->GetHandle())[pane].window : 0;
+  return pane < PaneCount() ? host.Ui().Pages(Dock()->window->GetHandle())[pane] : 0;
 }
 
 platform::SECTreeCtrl* World::Grid(std::size_t pane) {

@@ -76,15 +76,13 @@ class World {
   IQIOServer* Server() const { return Registered<IQIOServer>(IID_IQIOServer); }
   IQSteppingClient* Stepping() const { return Registered<IQSteppingClient>(IID_IQSteppingClient); }
 
-  void LoadSession();
+  void LoadSession(const char* project = "prj", const char* configuration = "cfg");
   void SaveSession();
   // A value of the session by the key that the view gives.
   void Keep(const std::string& key, const std::string& value) { host.session[kSession + key] = value; }
 
   // Command 32770, where the host sends it.
   void OpenView();
-  // What the update handler says of it.
-  bool CanOpenView() const;
   FakeDockWindow* Dock() { return host.Ui().Dock(kIdentity); }
   std::size_t PaneCount();
   // Null for a pane that isn't there.

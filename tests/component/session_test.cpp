@@ -1,13 +1,15 @@
-// Sessions where a story can't look: at windows that the host hasn't shown, and at more than one project.
+// Sessions and news of the target, at windows that the host hasn't shown and at more than one project.
 
 #include <gmock/gmock.h>
 
+#include <functional>
+
+#include "host/events.h"
 #include "tests/component/component_world.h"
 
 namespace pvw {
 namespace {
 
-using platform::ScopedBstr;
 using testing::ElementsAre;
 
 class SessionTest : public test::ConnectedTest {};
@@ -16,26 +18,17 @@ TEST_F(SessionTest, ReopensTheViewWithoutShowingItOnTheDevicesFileWhenItsOwnIsAD
   world.Keep("IOCtrlViews", "1");
   world.Keep("IOCtrlIOFile", "$(CONFIGDIR)");
   world.LoadSession();
-  EXPECT_THAT(world.host.Asked("Get"), testing::Contains("GetConfigurationKey ws prj cfg"));
   ASSERT_NE(world.Dock(), nullptr);
   EXPECT_FALSE(world.Dock()->shown) << "that is up to the host";
-  EXPECT_EQ(world.Dock()->title, "IO");
   EXPECT_THAT(world.Rows(0), ElementsAre("PORT", "TIMER"));
-  EXPECT_TRUE(world.CanOpenView());
-  for (const char* when : {"not built again", "nor while it shows"}) {
-    world.OpenView();
-    EXPECT_TRUE(world.Dock()->shown);
-    EXPECT_FALSE(world.CanOpenView());
-    EXPECT_EQ(world.PaneCount(), 2u) << when;
-  }
-  world.TellSink(platform::WM_USER + 3, world.Pane(0));
-  EXPECT_FALSE(world.Dock()->shown);
+  world.OpenView();
+  EXPECT_TRUE(world.Dock()->shown);
+  EXPECT_EQ(world.PaneCount(), 2u) << "not built again";
 }
 
 TEST_F(SessionTest, EachProjectsViewHasAWindowOfItsOwn) {
   world.OpenView();
-  const ScopedBstr workspace("ws"), project("lab"), name("day"), configuration("rel");
-  world.Sessions()->LoadSessionData(workspace.Get(), project.Get(), name.Get(), configuration.Get());
+  world.LoadSession("lab", "rel");
   world.OpenView();
   auto* const other = world.host.Ui().Dock("{WK_00000001_IO}key of ws labkey of ws lab rel");
   ASSERT_NE(other, nullptr);
@@ -54,6 +47,34 @@ TEST_F(SessionTest, OneThatIsLoadedEndsTheLockAndLetsTheColourThatWaitedThrough)
               ElementsAre("WriteInt PVW_IO_BKCOLOUR = 0", "WriteInt PVW_IO_FGCOLOUR = 4"));
   world.Expand(0, 0);
   EXPECT_THAT(world.Rows(0), testing::SizeIs(4)) << "rows open again";
+}
+
+TEST_F(SessionTest, TheViewIsReadForStepsOfAnyKindAndOnlyForTheEventsThatItKnows) {
+  world.OpenView();
+  world.Expand(0, 0);
+  const auto steps = [&](std::uint32_t kind, std::uint32_t mode) {
+    world.Stepping()->OnStepBegin(kind, mode);
+    world.Stepping()->OnStep();
+    world.Stepping()->OnStepEnd();
+  };
+  const auto fire = [&](const platform::GUID& event) { return [&] { instance.Fire(event); }; };
+  const struct {
+    const char* name;
+    std::function<void()> news;
+    std::size_t reads;
+  } rows[] = {{"a quiet step", [&] { steps(1, 7); }, 1},
+              {"a step of another kind", [&] { steps(3, 8); }, 2},
+              {"the first refresh", fire(EVENT_VIEW_REFRESH_1), 1},
+              {"the third refresh", fire(EVENT_VIEW_REFRESH_3), 1},
+              {"another event", fire(IID_IQDebugger), 0},
+              {"the target goes", fire(EVENT_TARGET_DISCONNECTED), 0},
+              {"a step without a target", [&] { steps(1, 0); }, 0},
+              {"the target comes", fire(EVENT_TARGET_CONNECTED), 0}};
+  for (const auto& row : rows) {
+    world.TakeReads();
+    row.news();
+    EXPECT_EQ(world.TakeReads(), row.reads) << row.name;
+  }
 }
 
 }  // namespace

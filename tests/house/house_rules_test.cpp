@@ -71,21 +71,33 @@ std::vector<Source> ProductSources() {
   return sources;
 }
 
+// What the expression finds in the text, by its first group.
+std::vector<std::string> Matches(const std::string& text, const std::regex& expression) {
+  std::vector<std::string> found;
+  for (std::sregex_iterator it(text.begin(), text.end(), expression), end; it != end; ++it) {
+    found.push_back((*it)[1]);
+  }
+  return found;
+}
+
+// How high the folder stands; beyond the last for one that isn't in the tower.
+std::size_t Floor(const std::string& folder) {
+  return static_cast<std::size_t>(std::ranges::find(kTower, folder) - kTower.begin());
+}
+
 TEST(HouseRules, NoFolderIncludesOneThatStandsAboveIt) {
   const std::regex include(R"re(^\s*#\s*include\s*"([^"]+)")re", std::regex::multiline);
   std::vector<std::string> wrong;
   std::size_t seen = 0;
   for (const Source& source : ProductSources()) {
     if (source.folder.empty()) wrong.push_back(source.path + " lies in no known folder");
-    for (std::sregex_iterator it(source.text.begin(), source.text.end(), include), end; it != end; ++it) {
+    for (const std::string& target : Matches(source.text, include)) {
       ++seen;
-      const std::string target = (*it)[1];
       const std::string folder = FolderOf(target);
-      const auto own = std::find(kTower.begin(), kTower.end(), source.folder);
-      const auto other = std::find(kTower.begin(), kTower.end(), folder);
       const auto beside = kBeside.find(source.folder);
-      const bool allowed =
-          beside != kBeside.end() ? beside->second.contains(folder) : other != kTower.end() && other <= own;
+      const bool allowed = beside != kBeside.end()
+                               ? beside->second.contains(folder)
+                               : Floor(folder) < kTower.size() && Floor(folder) <= Floor(source.folder);
       if (!allowed) wrong.push_back(source.path + " includes " + target);
     }
   }
@@ -94,30 +106,20 @@ TEST(HouseRules, NoFolderIncludesOneThatStandsAboveIt) {
 }
 
 TEST(HouseRules, TheLinksOfAFolderSayTheSameOrder) {
-  const std::regex call(R"(pvw_folder\((\w+)\s+LINKS([^)]*)\))");
+  const std::regex call(R"(pvw_folder\(\w+\s+LINKS([^)]*)\))");
   std::vector<std::string> wrong;
   std::size_t seen = 0;
-  for (const auto& entry : fs::recursive_directory_iterator(kRoot)) {
-    if (entry.path().filename() != "CMakeLists.txt") continue;
-    const std::string path = fs::relative(entry.path(), kRoot).generic_string();
-    const std::string folder = fs::path(path).parent_path().generic_string();
-    if (path.starts_with("build/") || std::find(kTower.begin(), kTower.end(), folder) == kTower.end())
-      continue;
-    const std::string text = Read(entry.path());
-    for (std::sregex_iterator it(text.begin(), text.end(), call), end; it != end; ++it) {
+  for (const std::string& folder : kTower) {
+    for (const std::string& list : Matches(Read(kRoot / folder / "CMakeLists.txt"), call)) {
       ++seen;
-      std::istringstream links((*it)[2]);
+      std::istringstream links(list);
       for (std::string link; links >> link;) {
-        if (link == "platform") continue;
-        std::string linked = link.starts_with("pvw_") ? link.substr(4) : link;
-        for (const std::string& known : kTower) {
-          std::string name = known;
-          std::replace(name.begin(), name.end(), '/', '_');
-          if (name == linked) linked = known;
-        }
-        const auto own = std::find(kTower.begin(), kTower.end(), folder);
-        const auto other = std::find(kTower.begin(), kTower.end(), linked);
-        if (other == kTower.end() || other >= own) wrong.push_back(path + " links " + link);
+        const auto linked = std::ranges::find_if(kTower, [&](std::string name) {
+          std::ranges::replace(name, '/', '_');
+          return link == "pvw_" + name;
+        });
+        const bool below = linked < kTower.begin() + static_cast<std::ptrdiff_t>(Floor(folder));
+        if (link != "platform" && !below) wrong.push_back(folder + " links " + link);
       }
     }
   }
@@ -125,71 +127,39 @@ TEST(HouseRules, TheLinksOfAFolderSayTheSameOrder) {
   EXPECT_THAT(wrong, testing::IsEmpty());
 }
 
-std::set<std::string> Identifiers(const std::string& text) {
-  std::set<std::string> found;
+// How often each identifier stands in the code.
+std::map<std::string, std::size_t> Identifiers(const std::string& code) {
+  std::map<std::string, std::size_t> found;
   const auto in_word = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; };
-  for (auto it = text.begin(); it != text.end();) {
-    it = std::find_if(it, text.end(), in_word);
-    const auto last = std::find_if_not(it, text.end(), in_word);
-    found.emplace(it, last);
+  for (auto it = code.begin(); it != code.end();) {
+    it = std::find_if(it, code.end(), in_word);
+    const auto last = std::find_if_not(it, code.end(), in_word);
+    ++found[{it, last}];
     it = last;
   }
   return found;
 }
 
-// A function at namespace scope begins in the first column of a header, and its parenthesis follows its name.
-std::set<std::string> DeclaredFunctions(const std::string& header) {
-  std::set<std::string> found;
-  std::istringstream lines(header);
-  for (std::string line; std::getline(lines, line);) {
-    const std::size_t parenthesis = line.find('(');
-    if (line.empty() || std::isalpha(static_cast<unsigned char>(line.front())) == 0) continue;
-    if (parenthesis == std::string::npos || parenthesis == 0) continue;
-    const std::size_t blank = line.find_last_of(" *&", parenthesis);
-    if (blank == std::string::npos || line.starts_with("template") || line.starts_with("static_assert"))
-      continue;
-    found.insert(line.substr(blank + 1, parenthesis - blank - 1));
-  }
-  return found;
-}
-
-// Only tests call these: one speaks of message boxes as a script's output does, the other maps drives into a
-// directory of the test's own.
-const std::set<std::string> kForTests = {"MessageLine", "SetDriveRoot"};
-
-std::string WithoutComments(const std::string& text) {
-  std::string code;
-  std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) code += line.substr(0, line.find("//")) + "\n";
-  return code;
-}
+// Only tests call this: it maps drives into a directory of the test's own.
+const std::set<std::string> kForTests = {"SetDriveRoot"};
 
 TEST(HouseRules, EveryPublicFunctionOfThePlatformHasACaller) {
-  const std::vector<Source> sources = ProductSources();
-  std::map<std::string, std::map<std::string, std::size_t>> users;  // identifier, folder: files that name it
-  for (const Source& source : sources) {
-    for (const std::string& name : Identifiers(source.text)) ++users[name][source.folder];
-  }
+  // A function at namespace scope begins in the first column, and its parenthesis follows its name.
+  const std::regex function(R"(^(?!template|static_assert)[A-Za-z][^(\n]*[ *&](\w+)\()",
+                            std::regex::multiline);
+  const std::regex comment("//[^\n]*");
+  std::map<std::string, std::size_t> named, declared;
   std::set<std::string> unused;
-  std::size_t seen = 0;
-  for (const Source& header : sources) {
-    if (!header.path.starts_with("platform/") || !header.path.ends_with(".h")) continue;
-    const std::string code = WithoutComments(header.text);
-    for (const std::string& name : DeclaredFunctions(code)) {
-      ++seen;
-      // Its own folder names it where it is declared and where it is defined: one more is a caller there.
-      const bool outside = users[name].size() > 1;
-      const std::size_t first = code.find(name + "(");
-      const std::size_t line = code.rfind('\n', first) + 1;
-      const bool defined_here = code.substr(line, first - line).find("inline") != std::string::npos ||
-                                code.substr(line, first - line).find("const") != std::string::npos;
-      const bool inside = users[name][header.folder] > (defined_here ? 1u : 2u);
-      const bool in_header =
-          code.find(name + "(", first + 1) != std::string::npos || code.find(name + "<") != std::string::npos;
-      if (!outside && !inside && !in_header) unused.insert(name);
+  for (const Source& source : ProductSources()) {
+    const std::string code = std::regex_replace(source.text, comment, "");
+    for (const auto& [name, times] : Identifiers(code)) named[name] += times;
+    for (const std::string& name : Matches(code, function)) {
+      ++declared[name];
+      if (source.path.starts_with("platform/") && source.path.ends_with(".h")) unused.insert(name);
     }
   }
-  EXPECT_GT(seen, 30u);
+  EXPECT_GT(unused.size(), 30u);
+  std::erase_if(unused, [&](const std::string& name) { return named[name] > declared[name]; });
   EXPECT_THAT(unused, testing::UnorderedElementsAreArray(kForTests));
 }
 

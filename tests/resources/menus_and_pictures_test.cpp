@@ -63,33 +63,27 @@ TEST(Toolbars, EachButtonHasItsStatusLineAndToolTip) {
   }
 }
 
-using Cell = std::vector<std::uint32_t>;
-
-// The cells of a strip; empty unless the strip is whole.
-std::vector<Cell> Cells(std::uint32_t id, int width, int height) {
+// The cells of a strip of 16 pixels each, by their pixels; empty unless the strip is whole.
+std::vector<std::vector<std::uint32_t>> Cells(std::uint32_t id, int height) {
   const platform::PictureResource* picture = platform::LoadBitmap(id);
-  if (picture == nullptr || picture->height != height || picture->width % width != 0 ||
-      picture->pixels.size() != static_cast<std::size_t>(picture->width * height)) {
-    return {};
-  }
-  std::vector<Cell> cells(static_cast<std::size_t>(picture->width / width));
+  if (picture == nullptr || picture->height != height || picture->width % 16 != 0) return {};
+  std::vector<std::vector<std::uint32_t>> cells(static_cast<std::size_t>(picture->width / 16));
+  if (picture->pixels.size() != cells.size() * 16 * static_cast<std::size_t>(height)) return {};
   for (std::size_t i = 0; i < picture->pixels.size(); ++i) {
-    cells[i % static_cast<std::size_t>(picture->width) / static_cast<std::size_t>(width)].push_back(
-        picture->pixels[i]);
+    cells[i / 16 % cells.size()].push_back(picture->pixels[i]);
   }
   return cells;
 }
 
 TEST(Pictures, EachButtonAndEachKindOfRowHasOneOfItsOwn) {
-  std::vector<Cell> buttons = Cells(204, 16, 15);
+  auto buttons = Cells(204, 15);
   EXPECT_EQ(buttons.size(), 8u);
-  const std::vector<Cell> frame = Cells(203, 16, 15);
-  buttons.insert(buttons.end(), frame.begin(), frame.end());
-  EXPECT_EQ(std::set<Cell>(buttons.begin(), buttons.end()).size(), 9u);
-  EXPECT_EQ(Cells(11003, 16, 15).size(), 1u);
-  const std::vector<Cell> rows = Cells(11004, 16, 16);
-  EXPECT_EQ(std::set<Cell>(rows.begin(), rows.end()).size(), 4u);
-  for (const Cell& cell : rows) EXPECT_EQ(cell.front(), 0xFFFFFFFFu) << "the mask shows at the corners";
+  std::ranges::copy(Cells(203, 15), std::back_inserter(buttons));
+  EXPECT_EQ(std::set(buttons.begin(), buttons.end()).size(), 9u);
+  EXPECT_EQ(Cells(11003, 15).size(), 1u);
+  const auto rows = Cells(11004, 16);
+  EXPECT_EQ(std::set(rows.begin(), rows.end()).size(), 4u);
+  for (const auto& cell : rows) EXPECT_EQ(cell.front(), 0xFFFFFFFFu) << "the mask shows at the corners";
 }
 
 }  // namespace

@@ -19,42 +19,33 @@ namespace pvw {
 namespace {
 
 // A module beside the test program, loaded for the length of a test.
-class Loaded {
- public:
-  explicit Loaded(const std::string& name)
-      : module_(platform::LoadLibrary(platform::FromNativePath(Native(name)).value())) {
-    EXPECT_NE(module_, nullptr) << name;
-  }
-  Loaded(const Loaded&) = delete;
-  Loaded& operator=(const Loaded&) = delete;
-  ~Loaded() { platform::FreeLibrary(module_); }
+using Loaded = std::unique_ptr<platform::Module, void (*)(platform::HMODULE)>;
 
-  platform::HMODULE Get() const { return module_; }
-  template <typename Function>
-  Function* Proc(const char* name) const {
-    return platform::GetProc<Function>(module_, name);
-  }
-  static std::string Native(const std::string& name) { return std::string(BINARY_DIR "/bin/") + name; }
-
- private:
-  platform::HMODULE module_;
-};
+std::string Native(const std::string& name) {
+  return BINARY_DIR "/bin/" + name;
+}
+Loaded Load(const std::string& name) {
+  return {platform::LoadLibrary(platform::FromNativePath(Native(name)).value()), platform::FreeLibrary};
+}
 
 TEST(ResourceLibrary, SaysThatItIsOfTheVersionThatTheComponentTakes) {
-  const Loaded library("PvwIOExtRes.dll");
+  const Loaded library = Load("PvwIOExtRes.dll");
+  ASSERT_NE(library, nullptr);
   std::uint32_t major = 9, minor = 9, ordinal = 9;
   using GiveTwo = std::int32_t(std::uint32_t*, std::uint32_t*);
-  EXPECT_EQ(library.Proc<GiveTwo>("GetDLLInterfaceVersion")(&major, &minor), 0);
-  EXPECT_EQ(library.Proc<std::int32_t(std::uint32_t*)>("GetDLLOrdinalVersion")(&ordinal), 0);
+  EXPECT_EQ(platform::GetProc<GiveTwo>(library.get(), "GetDLLInterfaceVersion")(&major, &minor), 0);
+  EXPECT_EQ(platform::GetProc<std::int32_t(std::uint32_t*)>(library.get(), "GetDLLOrdinalVersion")(&ordinal),
+            0);
   EXPECT_EQ(std::tie(major, minor, ordinal), std::make_tuple(1u, 0u, 1u));
 }
 
 TEST(ResourceLibrary, GivesATextIntoEnoughRoomAndElseTheSizeThatItNeeds) {
-  const Loaded library("PvwIOExtRes.dll");
+  const Loaded library = Load("PvwIOExtRes.dll");
+  ASSERT_NE(library, nullptr);
   const std::pair<const char*, std::string> texts[] = {{"GetDLLType", "Resource"},
                                                        {"GetDLLProductVersion", "1.0"}};
   for (const auto& [name, text] : texts) {
-    auto* const give = library.Proc<std::int32_t(char*, std::uint32_t*)>(name);
+    auto* const give = platform::GetProc<std::int32_t(char*, std::uint32_t*)>(library.get(), name);
     ASSERT_NE(give, nullptr) << name;
     const auto needed = static_cast<std::uint32_t>(text.size() + 1);
     for (const std::uint32_t room : {0u, needed - 1, needed, 1024u}) {
@@ -74,7 +65,7 @@ TEST(ResourceLibrary, GivesATextIntoEnoughRoomAndElseTheSizeThatItNeeds) {
 }
 
 TEST(ResourceLibrary, ExportsFourNamesAndNoMore) {
-  const std::string command = "nm -D --defined-only '" + Loaded::Native("PvwIOExtRes.dll") + "'";
+  const std::string command = "nm -D --defined-only '" + Native("PvwIOExtRes.dll") + "'";
   const std::unique_ptr<FILE, int (*)(FILE*)> listing(popen(command.c_str(), "r"), pclose);
   ASSERT_NE(listing, nullptr);
   std::vector<std::string> names;
@@ -85,11 +76,12 @@ TEST(ResourceLibrary, ExportsFourNamesAndNoMore) {
 }
 
 TEST(Accelerators, ThePanesLieInTheLibraryAndTheFramesInTheComponent) {
-  const Loaded library("PvwIOExtRes.dll");
-  const Loaded component("bare_component.dll");
+  const Loaded library = Load("PvwIOExtRes.dll");
+  ASSERT_NE(library, nullptr);
+  const Loaded component = Load("bare_component.dll");
   const auto keys = [](const Loaded& module, std::uint32_t id) {
     std::string text;
-    const auto found = platform::LoadAccelerators(module.Get(), id);
+    const auto found = platform::LoadAccelerators(module.get(), id);
     for (const auto& key : found.value_or(std::span<platform::AcceleratorKey>())) {
       text += std::to_string(key.modifiers) + " " + std::to_string(key.key) + " " +
               std::to_string(key.command) + ";";

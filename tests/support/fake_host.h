@@ -11,10 +11,10 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "host/component_host.h"
@@ -23,16 +23,12 @@
 
 namespace pvw::test {
 
-// A workspace that is open, with names that differ from what is shown for them. CloseWorkspace empties the
-// names.
+// A workspace that is open, with names that differ from "My Workspace", "My Project" and "Debug", which are
+// shown for them. CloseWorkspace empties the names.
 struct FakePaths {
   bool open = true;
   std::string workspace = "ws", project = "prj", configuration = "cfg";
-  std::string workspace_display = "My Workspace", project_display = "My Project",
-              configuration_display = "Debug";
-  std::string workspace_directory = "c:\\ws", project_directory = "c:\\ws\\prj",
-              configuration_directory = "c:\\ws\\prj\\cfg";
-  std::string install = "c:\\qbn", temp = "c:\\temp";
+  std::string configuration_directory = "c:\\ws\\prj\\cfg", install = "c:\\qbn";
 };
 
 struct FakePlaceholder {
@@ -47,7 +43,16 @@ struct FakePlaceholderList {
   bool wrong_type = false;         // a list of VT_VARIANT
 };
 
+// Target memory of one byte order.
+struct FakeArea {
+  std::uint32_t first = 0, last = 0xFFFFFFFF;
+  bool little = false;
+};
+
 class FakeUi;
+namespace fakes {
+struct Offered;
+}
 
 class FakeHost final : public IQComponentHost {
  public:
@@ -60,17 +65,28 @@ class FakeHost final : public IQComponentHost {
   std::vector<std::string> Asked(std::string_view prefix) const;
   void ClearTranscript() { transcript_.clear(); }
 
-  // At first every service is offered but IQDebugPlatform.
-  void Lack(const platform::GUID& service) { lacking_.insert(platform::GuidText(service)); }
-  void GiveNull(const platform::GUID& service) { null_.insert(platform::GuidText(service)); }
-  void Offer(const platform::GUID& service);
+  // All services that there are. At first every one is offered but IQDebugPlatform.
+  std::vector<platform::GUID> Services() const;
+  void Lack(const platform::GUID& service) { lacking_.insert(service); }
+  void GiveNull(const platform::GUID& service) { null_.insert(service); }
+  void Offer(const platform::GUID& service) {
+    lacking_.erase(service);
+    null_.erase(service);
+  }
 
   // Lets the next call, or every call from now on, of the operation of that name give this status and do
   // nothing: "ReadDirect", "GetErrorText", "FormatLong". Several FailNext of one operation queue up; S_OK in
   // the queue lets a call through.
-  void FailNext(const std::string& operation, platform::Status status = platform::E_FAIL);
-  void FailAll(const std::string& operation, platform::Status status = platform::E_FAIL);
-  void FailNone();
+  void FailNext(const std::string& operation, platform::Status status = platform::E_FAIL) {
+    fail_next_[operation].push_back(status);
+  }
+  void FailAll(const std::string& operation, platform::Status status = platform::E_FAIL) {
+    fail_all_[operation] = status;
+  }
+  void FailNone() {
+    fail_next_.clear();
+    fail_all_.clear();
+  }
   // What happens while the host is in a call of the operation: a target that drops off during a read.
   std::map<std::string, std::function<void()>, std::less<>> during;
   // What a failing operation leaves in its text output all the same; empty leaves it alone.
@@ -80,7 +96,7 @@ class FakeHost final : public IQComponentHost {
   void Poke(std::uint32_t address, const std::vector<std::uint8_t>& bytes);
   std::vector<std::uint8_t> Peek(std::uint32_t address, std::uint32_t count) const;
   // The whole space is one big-endian area until a part of it is made little-endian.
-  void SetLittle(std::uint32_t first, std::uint32_t last) { little_.push_back({first, last}); }
+  void SetLittle(std::uint32_t first, std::uint32_t last) { little_ = {first, last, true}; }
 
   // Stands for the debugger, as a refresh hands it to the records.
   IQDebugger* Debugger();
@@ -94,14 +110,15 @@ class FakeHost final : public IQComponentHost {
   std::vector<std::string> recorded;
 
   FakePaths paths;
-  void CloseWorkspace();
+  void CloseWorkspace() {
+    paths.open = false;
+    paths.workspace = paths.project = paths.configuration = {};
+  }
   FakePlaceholderList global_placeholders, workspace_placeholders;
 
   std::string device_path = "c:\\device";
 
-  std::map<std::string, std::string> session;           // by "ws prj cfg KEY"
-  std::map<std::string, std::string> setting_texts;     // by "KEY"
-  std::map<std::string, std::int32_t> setting_numbers;  // by "KEY" or "SECTION/KEY"
+  std::map<std::string, std::string> session;  // by "ws prj cfg KEY"
 
   // Its window side.
   FakeUi& Ui() { return *ui_; }
@@ -120,30 +137,22 @@ class FakeHost final : public IQComponentHost {
 
   // For the services: writes the line and gives the status that the call is to fail with, else 0.
   platform::Status Begin(std::string_view operation, const std::string& arguments = {});
-  // The same for an operation that gives a text.
-  platform::Status BeginText(std::string_view operation, const std::string& arguments, platform::BSTR* out,
-                             const std::string& text);
-  bool IsLittle(std::uint32_t address, std::uint32_t* first, std::uint32_t* last) const;
+  FakeArea AreaAt(std::uint32_t address) const;
 
  private:
-  struct Services;
-  struct Area {
-    std::uint32_t first, last;
-  };
-
   platform::Status Register(std::string_view operation, const platform::GUID& id, void* face);
-  platform::Status Unregister(std::string_view operation, const platform::GUID& id);
   platform::Status Give(const platform::GUID& id, std::string_view operation, void** out);
+  const fakes::Offered* Find(const platform::GUID& id) const;
 
-  std::unique_ptr<Services> services_;
+  std::vector<fakes::Offered> offered_;
   std::unique_ptr<FakeUi> ui_;
-  std::map<std::string, void*> faces_;
+  std::unordered_map<platform::GUID, void*> faces_;
   std::vector<std::string> transcript_;
-  std::set<std::string> lacking_, null_;
+  std::unordered_set<platform::GUID> lacking_, null_;
   std::map<std::string, std::vector<platform::Status>, std::less<>> fail_next_;
   std::map<std::string, platform::Status, std::less<>> fail_all_;
   std::unordered_map<std::uint32_t, std::uint8_t> memory_;
-  std::vector<Area> little_;
+  FakeArea little_;
 };
 
 }  // namespace pvw::test

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/base/message_box.h"
+#include "platform/headless/headless_display.h"
 
 namespace pvw::test {
 
@@ -20,21 +20,7 @@ class RecordingPresenter final : public platform::MessagePresenter {
   void Clear() { lines_.clear(); }
 
   void Show(const platform::MessageBoxRequest& request) override {
-    std::string line = "message";
-    if (request.type & platform::MB_ICONSTOP) {
-      const bool exclamation = (request.type & platform::MB_ICONEXCLAMATION) == platform::MB_ICONEXCLAMATION;
-      line += exclamation ? " [exclamation]" : " [stop]";
-    }
-    if (!request.caption.empty()) line += " \"" + request.caption + "\"";
-    line += ": ";
-    for (const char c : request.text) {
-      if (c == '\n') {
-        line += "\\n";
-      } else {
-        line += c;
-      }
-    }
-    lines_.push_back(line);
+    lines_.push_back(platform::MessageLine(request));
   }
   void Beep() override { lines_.push_back("beep"); }
 

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <memory>
 
 #include "platform/base/paths.h"
 #include "platform/base/resources.h"
@@ -31,18 +32,10 @@ bool IsLoaded(const std::string& native) {
 }
 
 // Keeps the scripted library loaded, so that what a test sets in its script is there when the loader comes.
-class Scripted {
- public:
-  Scripted() : module_(platform::LoadLibrary(DrivePath(kScripted))) {}
-  Scripted(const Scripted&) = delete;
-  Scripted& operator=(const Scripted&) = delete;
-  ~Scripted() { platform::FreeLibrary(module_); }
-
-  LibraryScript& operator*() const { return *platform::GetProc<LibraryScript*()>(module_, "GetScript")(); }
-  LibraryScript* operator->() const { return &**this; }
-
- private:
-  platform::HMODULE module_;
+struct Scripted {
+  const std::unique_ptr<platform::Module, void (*)(platform::HMODULE)> module{
+      platform::LoadLibrary(DrivePath(kScripted)), platform::FreeLibrary};
+  LibraryScript& script = *platform::GetProc<LibraryScript*()>(module.get(), "GetScript")();
 };
 
 TEST(ResourceLibrary, IsAcceptedOnlyAsOfTheRightTypeAndVersion) {
@@ -68,8 +61,8 @@ TEST(ResourceLibrary, IsAcceptedOnlyAsOfTheRightTypeAndVersion) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     {
-      const Scripted script;
-      *script = row.script;
+      const Scripted scripted;
+      scripted.script = row.script;
       std::string error;
       const auto library = LoadResourceLibrary(path, error);
       EXPECT_EQ(error, row.error);
@@ -98,11 +91,11 @@ TEST(ResourceLibrary, AnAssignedCopyHoldsTheModuleForItself) {
   CDllResource copy(DrivePath(kBare));
   ASSERT_TRUE(copy.Load());
   {
-    const Scripted script;
+    const Scripted scripted;
     std::string error;
     const auto library = LoadResourceLibrary(DrivePath(kScripted), error);
     ASSERT_NE(library, nullptr);
-    EXPECT_THAT(script->asked,
+    EXPECT_THAT(scripted.script.asked,
                 ElementsAre("interface", "product 1024 zeroed", "ordinal", "type 1024 zeroed"));
     copy.Assign(*library);
     copy.Assign(copy);

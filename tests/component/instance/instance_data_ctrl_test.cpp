@@ -15,7 +15,6 @@ namespace pvw {
 namespace {
 
 using platform::CWnd;
-using platform::HWND;
 using test::FakeHost;
 using testing::ElementsAre;
 
@@ -26,14 +25,13 @@ class Pane final : public CPvwDebugInstanceDataCtrl {
 
   std::uint32_t MenuOwner() const { return menuOwnerId; }
   std::uint32_t AcceleratorOwner() const { return acceleratorOwnerId; }
-  bool HasDebugger() const { return debugger != nullptr; }
 };
 
 class InstanceDataCtrlTest : public testing::Test {
  protected:
   InstanceDataCtrlTest() {
     platform::SetDisplay(&display);
-    HWND window = 0;
+    platform::HWND window = 0;
     registrar.FindDockableWindow("{ID}", "IO", nullptr, 0x1086, 0xE81E, &window, nullptr);
     dock = host.Ui().Dock("{ID}");
     pane = std::make_unique<Pane>(&host, &registrar);
@@ -55,38 +53,22 @@ class InstanceDataCtrlTest : public testing::Test {
   std::unique_ptr<Pane> pane;
 };
 
-TEST(InstanceDataCtrl, StandsWithAHostThatLacksAnyOneThing) {
-  FakeHost poor;
-  for (const platform::GUID& id :
-       {IID_IQHostFrame, IID_IQNumberFormat, IID_IQHostCommon, IID_IQSettings, IID_IQHostExtra}) {
-    poor.Lack(id);
-  }
-  for (IQComponentHost* host :
-       {static_cast<IQComponentHost*>(&poor), static_cast<IQComponentHost*>(nullptr)}) {
-    const int alive = CPvwInstanceDataCtrl::GetLiveCount();
-    Pane pane(host, nullptr);
-    EXPECT_EQ(CPvwInstanceDataCtrl::GetLiveCount(), alive + 1);
-    pane.ReleaseHostUi();
-    ASSERT_TRUE(pane.CreatePane(0, 0));
-    pane.OnAllowDocking();
-    pane.OnHideWindow();
-    EXPECT_EQ(pane.Send(platform::WM_HELP), 0);
-    pane.DestroyPane();
-  }
+TEST(InstanceDataCtrl, StandsWithoutAHostAndGivesBackOnlyTheOwnersThatItGot) {
+  const int alive = CPvwInstanceDataCtrl::GetLiveCount();
+  Pane pane(nullptr, nullptr);
+  EXPECT_EQ(CPvwInstanceDataCtrl::GetLiveCount(), alive + 1);
+  pane.ReleaseHostUi();
+  ASSERT_TRUE(pane.CreatePane(0, 0));
+  pane.OnAllowDocking();
+  pane.OnHideWindow();
+  EXPECT_EQ(pane.Send(platform::WM_HELP), 0);
+  pane.DestroyPane();
 
   FakeHost host;
   CUiRegistrar registrar(&host);
   host.FailNext("AllocOwnerId");
   { EXPECT_EQ(Pane(&host, &registrar).MenuOwner(), 0u); }
-  EXPECT_THAT(host.Asked("FreeOwnerId"), ElementsAre("FreeOwnerId 1"))
-      << "what it never got it doesn't give back";
-}
-
-TEST_F(InstanceDataCtrlTest, IsAShownChildOfTheHostsWindowWithTheFramesAsOwner) {
-  EXPECT_EQ(pane->GetParent(), dock->window.get());
-  EXPECT_EQ(pane->GetOwner(), 0x123u);
-  EXPECT_TRUE(pane->HasDebugger());
-  EXPECT_FALSE(Pane(&host, &registrar).CreatePane(0xDEAD00000001, 0)) << "a parent that isn't there";
+  EXPECT_THAT(host.Asked("FreeOwnerId"), ElementsAre("FreeOwnerId 1"));
 }
 
 TEST_F(InstanceDataCtrlTest, TakesBackAllThatItsOwnersHaveRegistered) {
@@ -100,20 +82,7 @@ TEST_F(InstanceDataCtrlTest, TakesBackAllThatItsOwnersHaveRegistered) {
   EXPECT_EQ(host.Ui().Dock("{ID}"), nullptr) << "the host's window went with its last page";
   EXPECT_FALSE(pane->Exists()) << "and the pane's in it";
   pane->ReleaseHostUi();
-}
-
-TEST_F(InstanceDataCtrlTest, ItsFirstChildFillsIt) {
-  CWnd tree;
-  CWnd second;
-  for (CWnd* child : {&tree, &second}) {
-    child->Create({.style = platform::WS_CHILD, .parent = pane->GetHandle()});
-  }
-  pane->MoveWindow({10, 20, 310, 220});
-  EXPECT_EQ(tree.GetRect(), (platform::RECT{0, 0, 300, 200}));
-  EXPECT_TRUE(tree.IsVisible());
-  EXPECT_TRUE(second.GetRect().IsEmpty());
-  tree.DestroyWindow();
-  second.DestroyWindow();
+  EXPECT_FALSE(pane->CreatePane(0xDEAD00000001, 0)) << "a parent that isn't there";
 }
 
 TEST_F(InstanceDataCtrlTest, IsDockableWhileItsWindowIsOrTheHostDoesntKnow) {
