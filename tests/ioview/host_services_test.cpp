@@ -1,45 +1,32 @@
-// The host's root object, how its services are logged and taken away, and those that speak of the workspace.
-
-#include "ioview/host/host_services.h"
+// The host's root object, how its services are logged and taken away, those that speak of the workspace, and
+// those that give a component its menus, pages and dockable windows.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "host/host_ptr.h"
+#include "ioview/host/host_services.h"
 #include "ioview/host/service_table.h"
+#include "platform/gui/window.h"
 
 namespace ioview {
 namespace {
 
 using platform::BSTR;
+using platform::HWND;
 using platform::ScopedBstr;
+using platform::Status;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 class HostServicesTest : public testing::Test {
  protected:
-  template <typename Interface>
-  Interface* Get(const platform::GUID& id) {
-    return pvw::GetService<Interface>(&host.root, id);
-  }
-
   UserSettings settings;
   HostServices host{settings};
 };
-
-std::vector<std::string> Elements(const platform::ScopedVariant& list) {
-  std::vector<std::string> texts;
-  if (list.Get().vt != (platform::VT_ARRAY | platform::VT_BSTR)) return {"not a list"};
-  for (std::size_t i = 0; BSTR* text = platform::SafeArrayBstrAt(list.Get().parray, i); ++i) {
-    texts.push_back(platform::BstrText(*text));
-  }
-  return texts;
-}
 
 TEST_F(HostServicesTest, EveryServiceAnswersUnderItsOwnIdAndCanBeTakenAway) {
   for (const ServiceEntry& entry : kServices) {
@@ -67,113 +54,56 @@ TEST_F(HostServicesTest, EveryServiceAnswersUnderItsOwnIdAndCanBeTakenAway) {
     EXPECT_TRUE(host.SetAvailability(entry.name, Availability::kNull));
     EXPECT_EQ(ask(&host), std::pair(platform::S_OK, static_cast<void*>(nullptr)));
     EXPECT_TRUE(host.SetAvailability(entry.name, Availability::kOff));
-    EXPECT_EQ(ask(nullptr), std::pair(platform::E_NOINTERFACE, static_cast<void*>(nullptr)));
+    void* const left = entry.id == pvw::IID_IQHostFrame ? nullptr : &host;
+    EXPECT_EQ(ask(&host), std::pair(platform::E_NOINTERFACE, left));
     // What was given before goes on working.
     EXPECT_EQ(service->QueryInterface(&entry.id, &face), platform::S_OK);
   }
-  void* kept = &host;
-  EXPECT_EQ(host.root.GetService(&pvw::IID_IQMemoryMap, &kept), platform::E_NOINTERFACE);
-  EXPECT_EQ(kept, &host);
   EXPECT_FALSE(host.SetAvailability("IQErrorReporter", Availability::kOff));
-  EXPECT_FALSE(host.SetAvailability("{00000000-0000-0000-0000-000000000000}", Availability::kOff));
 }
 
 TEST_F(HostServicesTest, AFailingServiceTouchesNothing) {
-  auto* before = Get<pvw::IQDataManager>(pvw::IID_IQDataManager);
-  for (const char* name : {"IQDataManager", "IQSettings", "IQUiManager", "IQTargetMemory",
-                           "IQCommandRecorder", "IQPathService", "IQDebugSession"}) {
-    host.SetAvailability(name, Availability::kFail);
-  }
-  host.recorder.Switch(true);
   host.session.SetRunning(true);
-  const ScopedBstr text("x");
   std::uint8_t byte = 7;
-  std::uint32_t owner = 7;
   ScopedBstr out;
-  auto* data = Get<pvw::IQDataManager>(pvw::IID_IQDataManager);
-  auto* memory = Get<pvw::IQTargetMemory>(pvw::IID_IQTargetMemory);
-  auto* recorder = Get<pvw::IQCommandRecorder>(pvw::IID_IQCommandRecorder);
   const platform::Status statuses[] = {
-      data->SetSessionValue(text.Get(), text.Get(), text.Get(), text.Get(), text.Get()),
-      Get<pvw::IQSettings>(pvw::IID_IQSettings)->WriteInt(text.Get(), 1),
-      Get<pvw::IQUiManager>(pvw::IID_IQUiManager)->AllocOwnerId(&owner),
-      memory->WriteMemory(0, 0, 1, &byte),
-      memory->ReadDirect(0, 0, 1, &byte),
-      recorder->IsActive(),
-      recorder->AddCommand(text.Get()),
-      Get<pvw::IQDebugSession>(pvw::IID_IQDebugSession)->IsTargetRunning(),
-      Get<pvw::IQPathService>(pvw::IID_IQPathService)->GetCurrentProject(out.Receive())};
+      host.memory.failing.WriteMemory(0, 0, 1, &byte), host.memory.failing.ReadDirect(0, 0, 1, &byte),
+      host.blocks.failing.WriteBlock(0, 0, 0, 1, &byte), host.session.failing.IsTargetRunning(),
+      host.paths.failing.GetCurrentProject(out.Receive())};
   EXPECT_THAT(statuses, testing::Each(platform::E_FAIL));
   EXPECT_EQ(byte, 7);
-  EXPECT_EQ(owner, 7u);
+  host.target.Peek(0, {&byte, 1});
+  EXPECT_EQ(byte, 0);
   EXPECT_EQ(out.Get(), nullptr);
-  EXPECT_THAT(host.recorder.Take(), IsEmpty());
-  EXPECT_EQ(host.session_values.Changes() + settings.Changes(), 0u);
-  EXPECT_EQ(before->SetSessionValue(text.Get(), text.Get(), text.Get(), text.Get(), text.Get()),
-            platform::S_OK);
-  EXPECT_EQ(host.session_values.Changes(), 1u);
 }
 
 TEST_F(HostServicesTest, LogsEveryOperationWithWhatCameIn) {
   const ScopedBstr text("c:\\a \"b\"\nc");
   const ScopedBstr none;
   std::uint8_t bytes[4] = {};
-  std::uint32_t number = 3;
   std::int64_t value = 0;
-  platform::HWND window = 99;
   const platform::VARIANT list;
-  pvw::QEventRecord event;
   ScopedBstr out;
-  struct {
-    std::function<void()> call;
-    const char* line;
-  } const cases[] = {
-      {[&] { host.root.FireEvent(&event); }, "IQComponentHost.FireEvent(*)"},
-      {[&] { Get<void>(pvw::IID_IQHostExtra); },
-       "IQComponentHost.GetService({A8495753-DE13-11D3-8AF5-00AA0026624A})"},
-      {[&] { host.root.AddClient(&pvw::IID_IQTestClient, &host); },
-       "IQComponentHost.AddClient({7E75765A-6BE4-4EC5-99B1-DB0B95E0E40B}, *)"},
-      {[&] { host.memory.ReadDirect(0xFF0000, 0xFF0003, 4, bytes); },
-       "IQTargetMemory.ReadDirect(16711680, 16711683, 4, *)"},
-      {[&] { host.blocks.WriteBlock(0, 3, 0xFFFFFFFF, 4, bytes); },
-       "IQBlockMemory.WriteBlock(0, 3, 4294967295, 4, *)"},
-      {[&] { host.errors.GetErrorText(platform::E_FAIL, out.Receive()); },
-       "IQErrorService.GetErrorText(-2147467259)"},
-      {[&] { host.addresses.EvaluateExpression(text.Get(), 16, &value); },
-       "IQAddressFormat.EvaluateExpression(\"c:\\a \"b\"\\nc\", 16)"},
-      {[&] { host.numbers.FormatByte(200, 16, out.Receive()); }, "IQNumberFormat.FormatByte(200, 16)"},
-      {[&] { host.settings_service.WriteSectionInt(none.Get(), text.Get(), -1); },
-       "IQSettings.WriteSectionInt(\"\", \"c:\\a \"b\"\\nc\", -1)"},
-      {[&] { host.ui_manager.AllocOwnerId(&number); }, "IQUiManager.AllocOwnerId()"},
-      {[&] { host.ui_manager.AddCommandSink(3, &pvw::CLSID_PvwIO, window); },
-       "IQUiManager.AddCommandSink(3, {80D58C53-E47D-11D3-8AF5-00AA0026624A}, *)"},
-      {[&] {
-         host.ui_manager.AddMenu(nullptr, 201, 3, &pvw::CLSID_PvwIO, &list, &list, &list, nullptr, none.Get(),
-                                 1);
-       },
-       "IQUiManager.AddMenu(*, 201, 3, {80D58C53-E47D-11D3-8AF5-00AA0026624A}, *, *, *, \"\", \"\", 1)"},
-      {[&] {
-         host.toolbars.FindDockableWindow(none.Get(), none.Get(), nullptr, 0x10, 0xE81E, &window, nullptr);
-       },
-       "IQToolbarManager.FindDockableWindow(\"\", \"\", *, 16, 59422)"},
-      {[&] { host.toolbars.ShowToolbar(window, -1); }, "IQToolbarManager.ShowToolbar(*, -1)"},
-  };
+  host.session.IsTargetRunning();
   host.calls.Switch(true);
-  for (const auto& row : cases) {
-    row.call();
-    EXPECT_THAT(host.calls.Take(), ElementsAre(row.line));
-  }
-  // A service that fails is called all the same, and one behind another has its own name.
+  host.blocks.WriteBlock(0, 3, 0xFFFFFFFF, 4, bytes);
+  host.errors.GetErrorText(platform::E_FAIL, out.Receive());
+  host.addresses.EvaluateExpression(text.Get(), 16, &value);
+  host.ui_manager.AddMenu(nullptr, 201, 3, &pvw::CLSID_PvwIO, &list, &list, &list, nullptr, none.Get(), 1);
+  // A service that fails is called all the same.
   host.session.failing.IsTargetRunning();
+  EXPECT_THAT(host.calls.Take(),
+              ElementsAre("IQBlockMemory.WriteBlock(0, 3, 4294967295, 4, *)",
+                          "IQErrorService.GetErrorText(-2147467259)",
+                          "IQAddressFormat.EvaluateExpression(\"c:\\a \"b\"\\nc\", 16)",
+                          "IQUiManager.AddMenu(*, 201, 3, {80D58C53-E47D-11D3-8AF5-00AA0026624A}, *, *, *, "
+                          "\"\", \"\", 1)",
+                          "IQDebugSession.IsTargetRunning()"));
+  // One behind another has its own name.
   void* reporter = nullptr;
   host.addresses.QueryInterface(&pvw::IID_IQErrorReporter, &reporter);
   static_cast<pvw::IQErrorReporter*>(reporter)->GetErrorText(1, out.Receive());
   EXPECT_THAT(host.calls.Take("IQErrorReporter"), ElementsAre("IQErrorReporter.GetErrorText(1)"));
-  EXPECT_THAT(host.calls.Take(), IsEmpty());
-  host.session.failing.IsTargetRunning();
-  EXPECT_THAT(host.calls.Take(), ElementsAre("IQDebugSession.IsTargetRunning()"));
-  host.calls.Switch(false);
-  host.session.IsTargetRunning();
   EXPECT_THAT(host.calls.Take(), IsEmpty());
 }
 
@@ -187,83 +117,162 @@ TEST(CallLog, DropsTheOldestCallsThatNobodyTakes) {
 }
 
 TEST_F(HostServicesTest, ADirectoryIsThatOfTheOpenWorkspaceOnly) {
-  host.workspace = {"shop", "lamp", "Debug", "c:\\w"};
-  const ScopedBstr shop("shop"), lamp("lamp"), debug("Debug"), other("other");
+  const ScopedBstr shop("shop"), lamp("lamp"), debug("Debug");
   ScopedBstr text;
-  std::uint32_t open = 1;
-  EXPECT_EQ(host.paths.GetWorkspaceDirectory(shop.Get(), text.Receive()), platform::S_OK);
-  EXPECT_EQ(text.Text(), "c:\\w");
-  EXPECT_EQ(host.paths.GetConfigurationDirectory(shop.Get(), lamp.Get(), debug.Get(), text.Receive()),
-            platform::S_OK);
-  EXPECT_EQ(text.Text(), "c:\\w\\lamp\\Debug");
-  host.workspace_info.GetConfigurationKey(shop.Get(), lamp.Get(), debug.Get(), text.Receive());
-  EXPECT_EQ(text.Text(), "Debug");
-
-  EXPECT_EQ(host.paths.GetConfigurationDirectory(shop.Get(), other.Get(), debug.Get(), text.Receive()),
-            platform::E_FAIL);
-  EXPECT_EQ(text.Get(), nullptr);
-
-  host.workspace.directory = "c:\\";
+  host.workspace = {"shop", "lamp", "Debug", "c:\\"};
   host.paths.GetConfigurationDirectory(shop.Get(), lamp.Get(), debug.Get(), text.Receive());
   EXPECT_EQ(text.Text(), "c:\\lamp\\Debug");
-
+  EXPECT_EQ(host.paths.GetConfigurationDirectory(shop.Get(), shop.Get(), debug.Get(), text.Receive()),
+            platform::E_FAIL);
+  EXPECT_EQ(text.Get(), nullptr);
   host.workspace = {};
-  EXPECT_EQ(host.paths.IsWorkspaceOpen(&open), platform::S_OK);
-  EXPECT_EQ(open, 0u);
-  EXPECT_EQ(host.paths.GetCurrentConfiguration(text.Receive()), platform::S_OK);
-  EXPECT_EQ(text.Text(), "");
   EXPECT_EQ(host.paths.GetWorkspaceDirectory(ScopedBstr("").Get(), text.Receive()), platform::E_FAIL);
 }
 
 TEST_F(HostServicesTest, CustomPlaceholdersFillThreeQuartersOfTheirList) {
-  host.workspace.name = "shop";
   host.placeholders.SetGlobal({"A", "1", "first"});
   host.placeholders.SetGlobal({"B", "2", "second"});
   host.placeholders.SetGlobal({"A", "3", "again"});
-  host.placeholders.SetOfWorkspace({"C", "4", ""});
-
   platform::ScopedVariant list;
   EXPECT_EQ(host.placeholders.GetGlobalPlaceholders(list.Receive()), platform::S_OK);
-  EXPECT_THAT(Elements(list), ElementsAre("again", "A", "3", "second", "B", "2", "", ""));
-  EXPECT_EQ(host.placeholders.GetWorkspacePlaceholders(ScopedBstr("shop").Get(), list.Receive()),
-            platform::S_OK);
-  EXPECT_THAT(Elements(list), ElementsAre("", "C", "4", ""));
+  std::vector<std::string> texts;
+  for (std::size_t i = 0; const BSTR* text = platform::SafeArrayBstrAt(list.Get().parray, i); ++i) {
+    texts.push_back(platform::BstrText(*text));
+  }
+  EXPECT_THAT(texts, ElementsAre("again", "A", "3", "second", "B", "2", "", ""));
   EXPECT_EQ(host.placeholders.GetWorkspacePlaceholders(ScopedBstr("x").Get(), list.Receive()),
             platform::E_FAIL);
   EXPECT_EQ(list.Get().vt, platform::VT_EMPTY);
 }
 
-TEST_F(HostServicesTest, SettingsAndSessionValuesKeepTheirPlacesAndTypes) {
-  const ScopedBstr section("S"), a("A"), b("B"), c("C");
-  host.settings_service.WriteInt(a.Get(), -5);
-  host.settings_service.WriteString(b.Get(), section.Get());
-  host.settings_service.WriteSectionInt(section.Get(), a.Get(), 7);
-  host.settings_service.WriteString(a.Get(), b.Get());
-  std::int32_t number = 99;
+TEST_F(HostServicesTest, SessionValuesKeepTheirPlacesAndCountTheirChanges) {
+  const ScopedBstr a("A"), b("B"), c("C");
   ScopedBstr text;
-  EXPECT_EQ(host.settings_service.ReadInt(a.Get(), &number), platform::E_FAIL);
-  EXPECT_EQ(number, 99);
-  EXPECT_EQ(host.settings_service.ReadSectionInt(section.Get(), a.Get(), &number), platform::S_OK);
-  EXPECT_EQ(number, 7);
-  EXPECT_EQ(host.settings_service.ReadSectionInt(section.Get(), b.Get(), &number), platform::E_FAIL);
-  EXPECT_EQ(host.settings_service.ReadString(c.Get(), text.Receive()), platform::E_FAIL);
-  EXPECT_EQ(host.settings_service.ReadString(a.Get(), text.Receive()), platform::S_OK);
-  EXPECT_EQ(text.Text(), "B");
-  ASSERT_EQ(settings.Entries().size(), 3u);
-  EXPECT_EQ(settings.Entries()[0].key, u"A");
-  EXPECT_EQ(settings.Entries()[2].section, u"S");
-
   DataManager& data = host.data_manager;
-  data.SetSessionValue(a.Get(), b.Get(), c.Get(), b.Get(), c.Get());
-  data.SetSessionValue(a.Get(), b.Get(), c.Get(), a.Get(), c.Get());
-  data.SetSessionValue(a.Get(), b.Get(), c.Get(), b.Get(), a.Get());
-  data.SetSessionValue(a.Get(), b.Get(), c.Get(), b.Get(), a.Get());
+  for (const auto& [key, value] : {std::pair(&b, &c), {&a, &c}, {&b, &a}, {&b, &a}}) {
+    data.SetSessionValue(a.Get(), b.Get(), c.Get(), key->Get(), value->Get());
+  }
   EXPECT_EQ(host.session_values.Changes(), 3u);
   EXPECT_EQ(host.session_values.Entries({u"A", u"B", u"C"}).front().key, u"B");
-  EXPECT_EQ(data.GetSessionValue(a.Get(), b.Get(), c.Get(), b.Get(), text.Receive()), platform::S_OK);
-  EXPECT_EQ(text.Text(), "A");
   // The same key of another configuration.
   EXPECT_EQ(data.GetSessionValue(a.Get(), b.Get(), nullptr, b.Get(), text.Receive()), platform::E_FAIL);
+}
+
+constexpr Status kOk = platform::S_OK;
+constexpr Status kFail = platform::E_FAIL;
+
+class WindowServices : public HostServicesTest {
+ protected:
+  Status Find(std::uint32_t flags) {
+    return host.toolbars.FindDockableWindow(id.Get(), title.Get(), nullptr, flags, 0xE81E, &dock, nullptr);
+  }
+  Status GetShown() {
+    HWND window = 0;
+    const Status status =
+        host.ui_manager.GetDockableWindow(id.Get(), title.Get(), 0, 0xE81C, &window, nullptr);
+    EXPECT_EQ(window, status == kOk ? dock : 0);
+    return status;
+  }
+  std::uint32_t PageCount() {
+    std::uint32_t count = 99;
+    host.pages.GetPageCount(dock, &count);
+    return count;
+  }
+
+  const ScopedBstr id{"{IO}"}, title{"I/O"}, all{"All"}, selected{"Selected"};
+  HWND dock = 0;
+};
+
+TEST_F(WindowServices, AWindowIsFoundBySomeoneElseWhenHiddenAndWhenShown) {
+  EXPECT_EQ(Find(0x10), kFail);
+  EXPECT_EQ(GetShown(), kFail);
+  EXPECT_EQ(dock, 0u);
+
+  EXPECT_EQ(Find(0x1086), kOk);
+  ASSERT_NE(dock, 0u);
+  const HWND made = dock;
+  EXPECT_EQ(Find(0x10), kOk);
+  EXPECT_EQ(GetShown(), kFail);
+
+  EXPECT_EQ(host.ui_manager.SetDockState(dock, 2), kOk);
+  EXPECT_EQ(GetShown(), kOk);
+  dock = 0;
+  EXPECT_EQ(Find(0x10), kFail);
+  EXPECT_EQ(dock, 0u);
+  EXPECT_EQ(Find(0x1086), kOk);
+  EXPECT_EQ(dock, made);
+
+  host.ui_manager.SetDockState(dock, 1);
+  EXPECT_EQ(Find(0x10), kOk);
+  EXPECT_EQ(host.ui_manager.RemoveParentWindow(dock), kOk);
+  EXPECT_EQ(platform::CWnd::FromHandle(dock), nullptr);
+  EXPECT_EQ(Find(0x10), kFail);
+  std::uint32_t unused = 0;
+  EXPECT_THAT((std::vector{host.ui_manager.RemoveParentWindow(dock), host.ui_manager.SetDockState(dock, 2),
+                           host.ui_manager.GetDockState(dock, &unused), host.toolbars.ShowToolbar(dock, 0),
+                           host.toolbars.CustomizeToolbar(dock), host.pages.GetPageCount(dock, &unused)}),
+              testing::Each(kFail));
+}
+
+TEST_F(WindowServices, PagesStandAtTheirPositions) {
+  platform::CWnd first, second;
+  Find(0x1086);
+  platform::CreateParams params;
+  params.style = platform::WS_CHILD;
+  params.parent = dock;
+  first.Create(params);
+  second.Create(params);
+  UiManager& ui = host.ui_manager;
+  ui.AddPage(dock, second.GetHandle(), -1, selected.Get(), 0, 0, 4, &pvw::CLSID_PvwIO);
+  ui.AddPage(dock, first.GetHandle(), 0, all.Get(), 0, 0, 3, &pvw::CLSID_PvwIO);
+  EXPECT_EQ(PageCount(), 2u);
+  EXPECT_EQ(host.ui.FindDock(dock)->Pages().front().title, "All");
+
+  // Without a parent it is a window for keys, and no page.
+  EXPECT_EQ(ui.AddPage(0, first.GetHandle(), 0, nullptr, 0, 0, 5, &pvw::CLSID_PaneAccelerators), kOk);
+  ASSERT_EQ(host.ui.Registrations().size(), 1u);
+  EXPECT_EQ(host.ui.Registrations().front().kind, RegistrationKind::kKeyWindow);
+  EXPECT_EQ(ui.RemovePage(0, first.GetHandle(), 6, &pvw::CLSID_PaneAccelerators), kFail);
+  EXPECT_EQ(ui.RemovePage(0, first.GetHandle(), 5, &pvw::CLSID_PaneAccelerators), kOk);
+
+  EXPECT_EQ(ui.RemovePage(dock, first.GetHandle(), 3, &pvw::CLSID_PvwIO), kOk);
+  EXPECT_EQ(ui.RemovePage(dock, first.GetHandle(), 3, &pvw::CLSID_PvwIO), kFail);
+  EXPECT_EQ(PageCount(), 1u);
+  EXPECT_EQ(ui.AddPage(77, first.GetHandle(), 0, all.Get(), 0, 0, 3, &pvw::CLSID_PvwIO), kFail);
+  // The windows go with the dock.
+  EXPECT_EQ(ui.RemoveParentWindow(dock), kOk);
+  EXPECT_EQ(first.GetHandle() + second.GetHandle(), 0u);
+}
+
+TEST_F(WindowServices, ARegistrationIsTakenBackByWhatItWasAddedWith) {
+  const platform::VARIANT none;
+  const platform::GUID* const by = &pvw::CLSID_PvwIO;
+  UiManager& ui = host.ui_manager;
+  ui.AddMenu(nullptr, 201, 1, by, &none, &none, &none, nullptr, nullptr, 1);
+  ui.AddPopupMenu(5, nullptr, 202, 1, by, &none);
+  ui.AddAccelerators(nullptr, 9001, 1, by, &none, &none, &none);
+  ui.AddCommandSink(1, by, 6);
+  ui.AddCommandStrings(nullptr, 1, by);
+  host.toolbars.AddToolbar(id.Get(), title.Get(), nullptr, 0, 203, 1, by, &none);
+  ASSERT_EQ(host.ui.Registrations().size(), 6u);
+  EXPECT_EQ(host.ui.Registrations()[5].resource, 203u);
+
+  // Another owner, class, window, id or name takes nothing back.
+  EXPECT_THAT((std::vector{ui.RemoveMenu(nullptr, 201, 2, by), ui.RemovePopupMenu(6, nullptr, 202, 1, by),
+                           ui.RemoveAccelerators(nullptr, 9001, 1, &pvw::CLSID_PaneAccelerators),
+                           ui.RemoveCommandSink(1, by, 5), ui.RemoveCommandStrings(nullptr, 2, by),
+                           ui.RemoveToolbar(title.Get(), 1, by)}),
+              testing::Each(kFail));
+  EXPECT_THAT((std::vector{ui.RemoveMenu(nullptr, 201, 1, by), ui.RemovePopupMenu(5, nullptr, 202, 1, by),
+                           ui.RemoveAccelerators(nullptr, 9001, 1, by), ui.RemoveCommandSink(1, by, 6),
+                           ui.RemoveCommandStrings(nullptr, 1, by), ui.RemoveToolbar(id.Get(), 1, by)}),
+              testing::Each(kOk));
+  EXPECT_THAT(host.ui.Registrations(), testing::IsEmpty());
+
+  std::uint32_t owner = 0;
+  ui.AllocOwnerId(&owner);
+  EXPECT_EQ(ui.FreeOwnerId(&owner), kOk);
+  EXPECT_EQ(ui.FreeOwnerId(&owner), kFail);
 }
 
 }  // namespace

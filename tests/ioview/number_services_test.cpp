@@ -20,17 +20,11 @@ TEST(NumberFormat, ReadsWhatUsersType) {
     std::optional<std::uint64_t> value;
   } const cases[] = {
       {"  0 ", 0},
-      {"H'FF", 0xFF},
-      {"0XaB", 0xAB},
-      {"D'10", 10},
       // Bare, B and D are digits.
       {"B1", 0xB1},
-      // A prefix alone.
-      {"H'", 0},
-      {" B' ", 0},
+      {" B' ", 0},  // a prefix alone
       // 64 bits and one more.
       {"FFFFFFFFFFFFFFFF", 0xFFFFFFFFFFFFFFFF},
-      {"10000000000000000", std::nullopt},
       {"D'18446744073709551615", 0xFFFFFFFFFFFFFFFF},
       {"D'18446744073709551616", std::nullopt},
       // Anything else.
@@ -98,16 +92,13 @@ TEST(AddressFormat, EvaluatesNumbers) {
   AddressFormat format;
   for (const auto& row : cases) {
     const platform::ScopedBstr text(row.text);
-    std::int64_t value = 77;
-    EXPECT_EQ(format.EvaluateExpression(text.Get(), row.radix, &value),
-              row.first ? platform::S_OK : kInvalidNumber)
-        << row.text;
-    EXPECT_EQ(value, row.first.value_or(77)) << row.text;
-    value = 77;
-    EXPECT_EQ(format.EvaluateExpression2(text.Get(), row.radix, &value),
-              row.second ? platform::S_OK : kInvalidNumber)
-        << row.text;
-    EXPECT_EQ(value, row.second.value_or(77)) << row.text;
+    for (const auto& [evaluate, expected] : {std::pair(&AddressFormat::EvaluateExpression, row.first),
+                                             {&AddressFormat::EvaluateExpression2, row.second}}) {
+      std::int64_t value = 77;
+      EXPECT_EQ((format.*evaluate)(text.Get(), row.radix, &value), expected ? platform::S_OK : kInvalidNumber)
+          << row.text;
+      EXPECT_EQ(value, expected.value_or(77)) << row.text;
+    }
   }
 }
 

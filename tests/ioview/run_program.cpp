@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+#include <vector>
 
 #include "tests/support/temp_dir.h"
 
@@ -31,12 +32,13 @@ void Become(std::vector<char*>& argv, const RunOptions& options, const char* out
 
 }  // namespace
 
-Outcome RunIoview(const std::vector<std::string>& arguments, const RunOptions& options) {
+Outcome RunIoview(const std::string& command, const RunOptions& options) {
   const pvw::test::TempDir captured;
   const std::string out = options.output.empty() ? captured.Native("out").string() : options.output;
   const std::string err = captured.Native("err").string();
-  std::vector<std::string> words = {BINARY_DIR "/bin/ioview"};
-  words.insert(words.end(), arguments.begin(), arguments.end());
+  std::vector<std::string> words = {options.program.empty() ? BINARY_DIR "/bin/ioview" : options.program};
+  if (!command.empty()) words.emplace_back();
+  for (const char c : command) c == '|' ? void(words.emplace_back()) : words.back().push_back(c);
   std::vector<char*> argv;
   argv.reserve(words.size() + 1);
   for (std::string& word : words) argv.push_back(word.data());

@@ -3,7 +3,6 @@
 
 #include <filesystem>
 #include <string>
-#include <vector>
 
 namespace ioview::test {
 
@@ -17,10 +16,11 @@ struct RunOptions {
   std::filesystem::path directory = {};  // to run in; empty: this one
   std::string output = {};               // a file in place of the collected standard output
   std::string input = "/dev/null";       // what standard input is opened on
+  std::string program = {};              // a copy of the program; empty: the built one
 };
 
-// A run of more than two minutes is ended by a signal.
-Outcome RunIoview(const std::vector<std::string>& arguments, const RunOptions& options = {});
+// `|` separates the words of the command line. A run of more than two minutes is ended by a signal.
+Outcome RunIoview(const std::string& command, const RunOptions& options = {});
 
 std::string ReadFile(const std::filesystem::path& path);
 

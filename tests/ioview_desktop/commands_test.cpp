@@ -1,27 +1,20 @@
-// Each command that the desktop shows, given by mouse or key, with what it does at the host.
+// Each command that the desktop shows, given by mouse or key, with what it does at the host. Behind them the
+// Test menu: registers are chosen, captured into a file, and held against the target.
 
-#include <QtTest/qtestkeyboard.h>
-#include <QtTest/qtestmouse.h>
 #include <QtWidgets/qabstractbutton.h>
-#include <QtWidgets/qapplication.h>
-#include <QtWidgets/qdialogbuttonbox.h>
 #include <QtWidgets/qfiledialog.h>
-#include <QtWidgets/qlineedit.h>
-#include <QtWidgets/qlistwidget.h>
-#include <QtWidgets/qmenu.h>
-#include <QtWidgets/qmessagebox.h>
-#include <QtWidgets/qpushbutton.h>
+#include <QtWidgets/qlabel.h>
+#include <QtWidgets/qplaintextedit.h>
 #include <QtWidgets/qstatusbar.h>
 #include <QtWidgets/qtabbar.h>
-#include <QtWidgets/qtoolbar.h>
 
-#include "platform/gui/list_edit.h"
 #include "tests/ioview_desktop/desktop_stage.h"
 
 namespace ioview::test {
 namespace {
 
-constexpr std::uint32_t kRefresh = 32817, kLock = 32826;
+using testing::ElementsAre;
+using testing::HasSubstr;
 
 class Commands : public DesktopStage {
  protected:
@@ -48,7 +41,16 @@ TEST_F(Commands, TheViewOpensOnTheFileWithMenusToolbarsAndTabs) {
   }
   EXPECT_EQ(commands, (std::vector<std::uint32_t>{32817, 32826, 32773, 32771, 32774, 32819, 32820, 32821}));
   EXPECT_EQ(PaneBar().actions()[1]->toolTip(), "LockRefresh");
-  EXPECT_EQ(PaneBar().actions()[1]->statusTip(), "Lock Refresh IO View");
+
+  InNextPopup([](QMenu& menu) {
+    EXPECT_EQ(Entries(menu),
+              QStringList({"Refresh", "Lock Refresh", "-", "Load IO File...", "Select IO Register...", "-",
+                           "Print", "Save To File...", "-", "Find...", "(Find Next)", "-", "Toolbar display",
+                           "Customize toolbar...", "-", "Allow Docking", "Hide"}));
+    EXPECT_TRUE(menu.actions()[12]->isChecked() && !menu.actions()[1]->isChecked());
+    menu.close();
+  });
+  ClickRow("PORT", Qt::RightButton);
 }
 
 TEST_F(Commands, TheDebugMenuDrivesTheTarget) {
@@ -87,69 +89,6 @@ TEST_F(Commands, TheDebugMenuDrivesTheTarget) {
   EXPECT_EQ(Value("PORT/PDATA"), "28") << "the lamps go round";
 }
 
-TEST_F(Commands, ThePanesCommandsRunByMenuToolbarAndContextMenu) {
-  OpenRow("PORT");
-  Poke(0xFF0041, 0x11);
-  ASSERT_TRUE(Click(PaneBar(), kRefresh));
-  EXPECT_EQ(Value("PORT/PDATA"), "11");
-
-  ASSERT_TRUE(Menu("Register|Lock Refresh"));
-  EXPECT_TRUE(Instance::StateOf(kLock, Component().Pane(PaneIndex::kAll)->GetHandle()).checked);
-  EXPECT_TRUE(PaneBar().actions()[1]->isChecked()) << "the button follows the menu";
-  Poke(0xFF0041, 0x12);
-  Key(Qt::Key_F11);
-  EXPECT_EQ(Value("PORT/PDATA"), "11");
-
-  InNextPopup([](QMenu& menu) {
-    EXPECT_EQ(Entries(menu),
-              QStringList({"Refresh", "Lock Refresh", "-", "Load IO File...", "Select IO Register...", "-",
-                           "Print", "Save To File...", "-", "Find...", "(Find Next)", "-", "Toolbar display",
-                           "Customize toolbar...", "-", "Allow Docking", "Hide"}));
-    EXPECT_TRUE(menu.actions()[1]->isChecked());
-    EXPECT_TRUE(Pick(menu, "Lock Refresh"));
-  });
-  ClickRow("PORT", Qt::RightButton);
-  EXPECT_TRUE(Answered());
-  EXPECT_EQ(Value("PORT/PDATA"), "12") << "the lock's end reads";
-
-  ASSERT_TRUE(Menu("Register|Toolbar display"));
-  EXPECT_FALSE(PaneBar().isVisible());
-  EXPECT_FALSE(Menu("Register|Customize toolbar..."));
-  ASSERT_TRUE(Menu("Register|Toolbar display"));
-  EXPECT_TRUE(PaneBar().isVisible());
-
-  ASSERT_TRUE(Menu("Register|Allow Docking"));
-  EXPECT_TRUE(Window().ViewFrame()->isFloating());
-  EXPECT_TRUE(Window().centralWidget()->isVisible());
-  EXPECT_EQ(Component().View()->dock_state, DockWindow::kFloating);
-  Window().ViewFrame()->setFloating(false);
-  EXPECT_EQ(Component().View()->dock_state, DockWindow::kDocked) << "the user's own docking counts";
-}
-
-TEST_F(Commands, RegisteredKeysWorkAheadOfTheFocusButNotInAnEdit) {
-  ClickRow("PORT");
-  InNextDialog([](QWidget& dialog) {
-    EXPECT_EQ(dialog.windowTitle(), "Find");
-    QTest::keyClicks(QApplication::focusWidget(), "FF0062");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  });
-  Key(Qt::Key_F, Qt::ControlModifier);
-  ASSERT_TRUE(Answered());
-  EXPECT_EQ(Grid().GetSelectedItem(), Row("TIMER/TCOUNT"));
-  EXPECT_TRUE(Until([&] { return PaneBar().actions()[7]->isEnabled(); })) << "Find Next follows by itself";
-  InNextDialog([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });  // no more of them
-  Key(Qt::Key_F3);
-  EXPECT_TRUE(Answered());
-
-  OpenRow("PORT");
-  ASSERT_TRUE(Grid().EditCell(Row("PORT/PDATA"), 2));
-  Key(Qt::Key_F, Qt::ControlModifier);
-  Key(Qt::Key_I, Qt::ControlModifier);
-  EXPECT_TRUE(Grid().IsEditing());
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-  Key(Qt::Key_Escape);
-}
-
 TEST_F(Commands, TheUserClosesHidesAndOpensTheView) {
   // The frame's own button.
   auto* close = Window().ViewFrame()->findChild<QAbstractButton*>("qt_dockwidget_closebutton");
@@ -179,11 +118,10 @@ TEST_F(Commands, TheUserClosesHidesAndOpensTheView) {
   EXPECT_TRUE(Component().View()->is_shown);
   EXPECT_EQ(Component().Pane(PaneIndex::kAll)->GetHandle(), pane);
 
-  // The frame's toolbar of the main window has the same command.
+  // The toolbar of the main window has the same command.
   ASSERT_TRUE(Menu("Register|Hide"));
   auto* cpu = Window().findChild<QToolBar*>("{WK_TB00000011_CPU}");
   ASSERT_NE(cpu, nullptr);
-  EXPECT_EQ(cpu->windowTitle(), "Cpu");
   ASSERT_TRUE(Click(*cpu, kOpenViewCommand));
   EXPECT_TRUE(Component().View()->is_shown);
   ASSERT_TRUE(Menu("View|Windows|Cpu"));
@@ -207,11 +145,9 @@ TEST_F(Commands, AnotherDefinitionIsOpenedByTheFileMenuEvenWhenTheViewIsClosed) 
   Component().CloseView();
   Settle();
   InNextDialog([this](QWidget& dialog) {
-    auto& files = dynamic_cast<QFileDialog&>(dialog);
-    EXPECT_EQ(files.directory().path().toStdString(), workspace.Native().string());
-    files.findChild<QLineEdit*>("fileNameEdit")->setText("lumen2.io");
-    QAbstractButton* open = files.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
-    QTest::mouseClick(open, Qt::LeftButton);
+    EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path().toStdString(),
+              workspace.Native().string());
+    NameFile(dialog, "lumen2.io");
   });
   ASSERT_TRUE(Menu("File|Open I/O Definition..."));
   ASSERT_NE(Component().View(), nullptr);
@@ -229,6 +165,104 @@ TEST_F(Commands, AboutNamesTheComponentAndStatusTipsComeFromIt) {
   refresh->hover();
   refresh->showStatusText(PaneBar().widgetForAction(refresh));
   EXPECT_EQ(Window().statusBar()->currentMessage(), "Refresh IO View");
+}
+
+class TestMenu : public DesktopStage {
+ protected:
+  TestMenu() { Start(); }
+  std::string Read(const char* name) { return ReadFile(workspace.Native(name)); }
+  // In the dialog's list, which is sorted by name.
+  void Choose(std::initializer_list<const char*> registers) {
+    InNextDialog([&](QWidget&) {
+      const auto& list =
+          dynamic_cast<platform::SECTreeCtrl&>(*platform::CWnd::FromHandle(platform::GetFocus()));
+      for (const std::string name : registers) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home);
+        for (std::size_t row = 1; row < list.GetRowCount(); ++row) {
+          if (list.GetItemText(list.GetSelectedItem(), 0) == name) break;
+          QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        }
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+      }
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    });
+    ASSERT_TRUE(Menu("Test|Choose Registers..."));
+    EXPECT_TRUE(Answered());
+  }
+  void Capture(const char* name) {
+    InNextDialog([this, name](QWidget& dialog) { NameFile(dialog, name); });
+    ASSERT_TRUE(Menu("Test|Capture..."));
+    EXPECT_TRUE(Answered());
+  }
+  // What the result dialog says: its sentence, then its lines.
+  std::vector<std::string> Compare(const char* name) {
+    std::vector<std::string> said;
+    InNextDialog([this, name, &said](QWidget& dialog) {
+      InNextDialog([&said](QWidget& result) {
+        const auto* const box = dynamic_cast<QMessageBox*>(&result);
+        said.push_back(box != nullptr ? box->text().toStdString()
+                                      : Bare(result.findChild<QLabel*>()->text()).toStdString());
+        if (const auto* lines = result.findChild<QPlainTextEdit*>()) {
+          for (const QString& line : lines->toPlainText().split('\n')) said.push_back(line.toStdString());
+        }
+        QTest::keyClick(&result, Qt::Key_Return);
+      });
+      NameFile(dialog, name);
+    });
+    EXPECT_TRUE(Menu("Test|Compare..."));
+    EXPECT_TRUE(Until([this] { return Answered(); }));
+    return said;
+  }
+};
+
+TEST_F(TestMenu, WhatWasCapturedIsHeldAgainstTheTarget) {
+  Choose({"PDATA", "TCTL"});
+  Capture("before.txt");
+  EXPECT_EQ(Read("before.txt"), "1.0&lumen3&0&2&PDATA H'00FF0041 1 cd&TCTL H'00FF0060 1 17\n");
+  EXPECT_THAT(Compare("before.txt"), ElementsAre("No differences."));
+
+  Poke(0xFF0041, 0x11);
+  EXPECT_THAT(Compare("before.txt"), ElementsAre("One difference:", HasSubstr("PDATA")));
+  Poke(0xFF0060, 0x22);
+  EXPECT_THAT(Compare("before.txt"), ElementsAre("2 differences:", HasSubstr("PDATA"), HasSubstr("TCTL")));
+}
+
+TEST_F(TestMenu, WhatCantBeDoneIsToldOfAndChangesNothing) {
+  std::string box;
+  TakeBox(box);
+  ASSERT_TRUE(Menu("Test|Capture..."));
+  EXPECT_THAT(box, HasSubstr("no registers of this device are chosen"));
+
+  workspace.Write("notes.txt", "no snapshot\n");
+  EXPECT_THAT(Compare("notes.txt"), ElementsAre(HasSubstr("notes.txt: This is no snapshot")));
+  EXPECT_THAT(Compare("none.txt"), ElementsAre(HasSubstr("none.txt")));
+
+  Choose({"PDATA"});
+  namespace fs = std::filesystem;
+  const fs::path kept = workspace.Native("notes.txt");
+  fs::permissions(kept, fs::perms::owner_read);
+  InNextDialog([this, &box](QWidget& dialog) {
+    InNextDialog([this, &box](QWidget& overwrite) {
+      TakeBox(box);
+      QTest::mouseClick(dynamic_cast<QMessageBox&>(overwrite).button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    NameFile(dialog, "notes.txt");
+  });
+  ASSERT_TRUE(Menu("Test|Capture..."));
+  ASSERT_TRUE(Until([this] { return Answered(); }));
+  Settle();
+  EXPECT_THAT(box, HasSubstr("notes.txt can't be written"));
+  EXPECT_EQ(Read("notes.txt"), "no snapshot\n");
+}
+
+TEST_F(TestMenu, RegistersAreReadFromATargetThatStandsStill) {
+  for (const char* const away : {"Run", "Disconnect"}) {
+    ASSERT_TRUE(Menu(QStringLiteral("Debug|") + away));
+    EXPECT_FALSE(Menu("Test|Capture...")) << away;
+    EXPECT_FALSE(Menu("Test|Compare...")) << away;
+    if (Menu("Debug|Stop")) continue;
+  }
+  Choose({"PDATA"});
 }
 
 }  // namespace

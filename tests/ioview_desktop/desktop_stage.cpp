@@ -7,18 +7,12 @@
 #include <QtGui/qevent.h>
 #include <QtGui/qimage.h>
 #include <QtGui/qpixmap.h>
-#include <QtTest/qtestkeyboard.h>
-#include <QtTest/qtestmouse.h>
-#include <QtWidgets/qapplication.h>
-#include <QtWidgets/qlineedit.h>
-#include <QtWidgets/qmenu.h>
 #include <QtWidgets/qmenubar.h>
-#include <QtWidgets/qmessagebox.h>
-#include <QtWidgets/qtoolbar.h>
 
-#include <filesystem>
+#include <fstream>
 
 #include "ioview/memory_file.h"
+#include "ioview/script/row_path.h"
 
 namespace ioview::test {
 
@@ -84,13 +78,13 @@ DesktopStage::~DesktopStage() {
   EXPECT_TRUE(Answered()) << "a dialog that was to come didn't";
 }
 
-void DesktopStage::Start(const std::string& file, bool demo) {
+void DesktopStage::Start(const std::string& file) {
   desktop.reset();
   desktop = std::make_unique<Desktop>(
       library, Desktop::Places{workspace.Native(file).string(), workspace.Native().string(), settings_file});
   desktop->Display().SetNativeDialogs(false);
   LoadMemoryFile(Host().target, (std::filesystem::path(SOURCE_DIR) / "examples/lumen.mem").string());
-  ASSERT_TRUE(desktop->Open(demo));
+  ASSERT_TRUE(desktop->Open(false));
   Settle();
 }
 
@@ -103,17 +97,7 @@ void DesktopStage::Quit() {
 // Rows --------------------------------------------------------------------------------------------------
 
 platform::HTREEITEM DesktopStage::Row(const std::string& path, PaneIndex pane) {
-  const platform::SECTreeCtrl& grid = Grid(pane);
-  platform::HTREEITEM item = 0;
-  for (std::size_t start = 0; start <= path.size();) {
-    const std::size_t end = std::min(path.find('/', start), path.size());
-    const std::string name = path.substr(start, end - start);
-    item = start == 0 ? grid.GetRootItem() : grid.GetChildItem(item);
-    while (item != 0 && grid.GetItemText(item, 0) != name) item = grid.GetNextSiblingItem(item);
-    if (item == 0) return 0;
-    start = end + 1;
-  }
-  return item;
+  return FindRow(Grid(pane), SplitRowPath(path));
 }
 
 bool DesktopStage::ShowsRed() {
@@ -191,12 +175,6 @@ void DesktopStage::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   Settle();
 }
 
-void DesktopStage::ClickRow(const std::string& path, Qt::MouseButton button) {
-  const platform::POINT at = Grid().GetPartPoint(Row(path), platform::TVHT_ONITEMLABEL);
-  QTest::mouseClick(platform::QtDisplay::WidgetOf(Grid()), button, {}, QPoint(at.x, at.y));
-  Settle();
-}
-
 namespace {
 
 QPoint MiddleOf(const platform::RECT& cell) {
@@ -205,15 +183,15 @@ QPoint MiddleOf(const platform::RECT& cell) {
 
 }  // namespace
 
-void DesktopStage::ClickCell(const std::string& path, int column) {
+void DesktopStage::ClickRow(const std::string& path, Qt::MouseButton button, int column) {
   const QPoint at = MiddleOf(Grid().GetCellRect(Row(path), column));
-  QTest::mouseClick(platform::QtDisplay::WidgetOf(Grid()), Qt::LeftButton, {}, at);
+  QTest::mouseClick(platform::QtDisplay::WidgetOf(Grid()), button, {}, at);
   Settle();
 }
 
 // As a screen sends it: the second press is another kind of event.
 void DesktopStage::DoubleClickCell(const std::string& path, int column) {
-  ClickCell(path, column);
+  ClickRow(path, Qt::LeftButton, column);
   const QPoint at = MiddleOf(Grid().GetCellRect(Row(path), column));
   QWidget* const widget = platform::QtDisplay::WidgetOf(Grid());
   QMouseEvent press(QEvent::MouseButtonDblClick, at, widget->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
@@ -236,10 +214,29 @@ void DesktopStage::NameFile(QWidget& dialog, const std::string& name) {
   QTest::keyClick(edit, Qt::Key_Return);
 }
 
+std::string DesktopStage::ReadFile(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
 int DesktopStage::Byte(std::uint32_t address) {
   std::uint8_t byte = 0;
   Host().target.Peek(address, {&byte, 1});
   return byte;
+}
+
+void DesktopStage::Press(QWidget& dialog, QDialogButtonBox::StandardButton button) {
+  QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+}
+
+void DesktopStage::TogglePrintButton() {
+  InNextDialog([](QWidget& dialog) {
+    auto* list = dialog.findChild<QListWidget*>();
+    EXPECT_EQ(list->item(3)->text(), "Print");
+    list->setCurrentRow(3);
+    QTest::keyClick(list, Qt::Key_Space);
+    Press(dialog, QDialogButtonBox::Ok);
+  });
 }
 
 void DesktopStage::TakeBox(std::string& text) {

@@ -1,13 +1,22 @@
-// The desktop over the example device, off screen, with the hands of a user: real mouse and key events.
+// The desktop over the example device, off screen, with the hands of a user: real mouse and key events. The
+// widgets that most tests look into come along.
 #pragma once
 
-#include <QtCore/qobject.h>
-#include <QtCore/qstring.h>
-#include <QtCore/qstringlist.h>
-#include <QtWidgets/qwidget.h>
+#include <QtTest/qtestkeyboard.h>
+#include <QtTest/qtestmouse.h>
+#include <QtWidgets/qapplication.h>
+#include <QtWidgets/qdialogbuttonbox.h>
+#include <QtWidgets/qlineedit.h>
+#include <QtWidgets/qlistwidget.h>
+#include <QtWidgets/qmenu.h>
+#include <QtWidgets/qmessagebox.h>
+#include <QtWidgets/qpushbutton.h>
+#include <QtWidgets/qtoolbar.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -15,10 +24,6 @@
 
 #include "ioview/desktop/desktop.h"
 #include "tests/support/temp_dir.h"
-
-class QAction;
-class QMenu;
-class QToolBar;
 
 namespace ioview::test {
 
@@ -33,7 +38,7 @@ class DesktopStage : public testing::Test {
   ~DesktopStage() override;
 
   // Starts the program on the file in the workspace, as the command line would; the one before is gone.
-  void Start(const std::string& file = "lumen3.io", bool demo = false);
+  void Start(const std::string& file = "lumen3.io");
   // The user closes the window, and the program ends.
   void Quit();
   Instance& Component() { return desktop->GetInstance(); }
@@ -61,10 +66,8 @@ class DesktopStage : public testing::Test {
   bool Click(QToolBar& bar, std::uint32_t command);
   QToolBar& PaneBar();
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
-  // A click into a row's name, with either button.
-  void ClickRow(const std::string& path, Qt::MouseButton button = Qt::LeftButton);
-  // Into the middle of a cell.
-  void ClickCell(const std::string& path, int column);
+  // A click into the middle of one of a row's cells, with either button.
+  void ClickRow(const std::string& path, Qt::MouseButton button = Qt::LeftButton, int column = 0);
   void DoubleClickCell(const std::string& path, int column);
   // Keys to whatever has the keyboard; characters go one by one.
   static void Type(const QString& text);
@@ -74,10 +77,14 @@ class DesktopStage : public testing::Test {
   // closed by it. `Answered` says whether it came.
   void InNextDialog(std::function<void(QWidget& dialog)> act);
   void InNextPopup(std::function<void(QMenu& menu)> act);
+  static void Press(QWidget& dialog, QDialogButtonBox::StandardButton button);
+  // Takes the Print button out of the toolbar, or puts it back, in the dialog that comes next.
+  void TogglePrintButton();
   // Ends the next message box, and gives its text.
   void TakeBox(std::string& text);
   bool Answered() const { return answers_ == 0; }
   static QString Bare(QString text);
+  static std::string ReadFile(const std::filesystem::path& path);
 
   pvw::test::TempDir workspace;
   std::string settings_file;

@@ -1,9 +1,6 @@
 // A value is edited with the hands of a user: in its cell, and in the dialog.
 
-#include <QtTest/qtestmouse.h>
 #include <QtTest/qtestsystem.h>
-#include <QtWidgets/qapplication.h>
-#include <QtWidgets/qmenu.h>
 
 #include "platform/gui/list_edit.h"
 #include "tests/ioview_desktop/desktop_stage.h"
@@ -40,17 +37,15 @@ TEST_F(Editing, ACellIsEditedOnceTheTimeForADoubleClickIsOverAndEndsAsTheUserLea
            Row{"Enter writes", "5A", enter, "", 0x5A, "5A"},
            Row{"a click on another row writes", "5b", click_away, "", 0x5B, "5B"},
            Row{"Escape keeps the old value", "5C", escape, "", 0xCD, "CD"},
-           Row{"Escape forgets a bad text", "5z", escape, "", 0xCD, "CD"},
            Row{"a bad text is told of once when the user clicks away", "zz", click_away, "Invalid Hex Value",
                0xCD, "CD"},
-           Row{"Enter asks the host what a text means", "zz", enter, "Invalid number.", 0xCD, "CD"},
-           Row{"and takes what the host takes", "H'5D", enter, "", 0x5D, "5D"},
+           Row{"Enter takes what the host takes", "H'5D", enter, "", 0x5D, "5D"},
        }) {
     SCOPED_TRACE(row.name);
     Poke(kData, 0xCD);
     ASSERT_TRUE(Menu("Register|Refresh"));
     ClickRow("CLOCK");
-    ClickCell("PORT/PDATA", kValue);
+    ClickRow("PORT/PDATA", Qt::LeftButton, kValue);
     EXPECT_FALSE(IsEditing());
     ASSERT_TRUE(Until([this] { return IsEditing(); }));
     EXPECT_EQ(QApplication::focusWidget(), platform::QtDisplay::WidgetOf(*Grid().GetListEdit()));
@@ -58,6 +53,9 @@ TEST_F(Editing, ACellIsEditedOnceTheTimeForADoubleClickIsOverAndEndsAsTheUserLea
     std::string box;
     if (*row.box != '\0') TakeBox(box);
     Type(row.typed);
+    Key(Qt::Key_F, Qt::ControlModifier);
+    Key(Qt::Key_I, Qt::ControlModifier);
+    EXPECT_TRUE(IsEditing() && QApplication::activeModalWidget() == nullptr) << "no keys of the host's";
     row.leave();
     EXPECT_TRUE(Answered());
     Settle();
@@ -70,20 +68,13 @@ TEST_F(Editing, ACellIsEditedOnceTheTimeForADoubleClickIsOverAndEndsAsTheUserLea
   }
 }
 
-TEST_F(Editing, TheDialogOpensByDoubleClickAndEnterAndStaysUntilTheValueFits) {
+TEST_F(Editing, TheDialogOpensByDoubleClickAndEnter) {
   for (const bool by_mouse : {true, false}) {
     SCOPED_TRACE(by_mouse ? "double click" : "Enter");
     Poke(kData, 0xCD);
     ASSERT_TRUE(Menu("Register|Refresh"));
     InNextDialog([this](QWidget& dialog) {
       EXPECT_EQ(dialog.windowTitle().toStdString(), "Edit PDATA at H'00FF0041");
-      std::string box;
-      TakeBox(box);
-      Type("1FF");
-      Key(Qt::Key_Return);
-      EXPECT_EQ(box, "The entered value is too big.\nMust be less than or equal to FF.");
-      EXPECT_TRUE(dialog.isVisible());
-      EXPECT_EQ(Byte(kData), 0xCD);
       Type("3C");
       Key(Qt::Key_Return);
     });
@@ -98,19 +89,6 @@ TEST_F(Editing, TheDialogOpensByDoubleClickAndEnterAndStaysUntilTheValueFits) {
     EXPECT_EQ(Value("PORT/PDATA"), "3C");
     QTest::qWait(3 * QApplication::doubleClickInterval());
     EXPECT_FALSE(IsEditing()) << "the first click of the two opens no edit any more";
-  }
-}
-
-TEST_F(Editing, ARowThatCantBeEditedSaysSo) {
-  Poke(0xFF0003, 0x08);  // stops the timer
-  OpenRow("TIMER");
-  ASSERT_TRUE(Menu("Register|Refresh"));
-  for (const int column : {0, kValue}) {
-    std::string box;
-    TakeBox(box);
-    DoubleClickCell("TIMER/TCTL", column);
-    EXPECT_TRUE(Answered());
-    EXPECT_EQ(box, "TCTL Not Editable");
   }
 }
 

@@ -1,21 +1,11 @@
 // What the desktop keeps between two runs, and what it does about files that it can't use.
 
-#include <QtTest/qtestkeyboard.h>
-#include <QtTest/qtestmouse.h>
 #include <QtWidgets/qcombobox.h>
-#include <QtWidgets/qdialogbuttonbox.h>
 #include <QtWidgets/qfontcombobox.h>
 #include <QtWidgets/qlabel.h>
-#include <QtWidgets/qlistwidget.h>
-#include <QtWidgets/qmessagebox.h>
-#include <QtWidgets/qpushbutton.h>
 #include <QtWidgets/qspinbox.h>
-#include <QtWidgets/qtoolbar.h>
-#include <gmock/gmock.h>
 
-#include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "platform/base/text.h"
 #include "tests/ioview_desktop/desktop_stage.h"
@@ -28,13 +18,6 @@ using testing::HasSubstr;
 
 constexpr std::uint32_t kPrint = 32771;
 
-std::string ReadAll(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
 void WriteAll(const fs::path& path, const std::string& text) {
   fs::create_directories(path.parent_path());
   std::ofstream(path, std::ios::binary) << text;
@@ -43,9 +26,6 @@ void WriteAll(const fs::path& path, const std::string& text) {
 class Keeping : public DesktopStage {
  protected:
   fs::path SessionFile() { return SessionFileOf(workspace.Native().string()); }
-  static void PressButton(QWidget& dialog, QDialogButtonBox::StandardButton button) {
-    QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
-  }
 };
 
 TEST_F(Keeping, TheSessionIsSavedWhenTheWindowClosesAndBringsTheViewBack) {
@@ -70,17 +50,15 @@ TEST_F(Keeping, TheSessionIsSavedWhenTheWindowClosesAndBringsTheViewBack) {
 TEST_F(Keeping, TheFileOfTheCommandLineWinsOverAStoredOne) {
   const std::string key = "{F866DB60-6186-11D5-8BBE-0004E2013C71}IOCtrlIOFile";
   const SessionValues::Names names{u"demo", u"demo", u"Debug"};
-  for (const char* stored : {"lumen2.io", "lumen3.io"}) {
-    SessionValues values;
-    values.Set(names, platform::ToWide(key), platform::ToWide("$(WORKSPDIR)\\" + std::string(stored)));
-    std::string why;
-    ASSERT_TRUE(SaveSessionFile(SessionFile().string(), values, why)) << why;
-    Start("lumen3.io");
-    OpenRow("CLOCK");
-    EXPECT_EQ(Row("CLOCK/DEVICEID"), 0u) << stored;
-    EXPECT_NE(Row("CLOCK/REVISION"), 0u) << stored;
-    Quit();
-  }
+  SessionValues values;
+  values.Set(names, platform::ToWide(key), u"$(WORKSPDIR)\\lumen2.io");
+  std::string why;
+  ASSERT_TRUE(SaveSessionFile(SessionFile().string(), values, why)) << why;
+  Start("lumen3.io");
+  OpenRow("CLOCK");
+  EXPECT_EQ(Row("CLOCK/DEVICEID"), 0u);
+  EXPECT_NE(Row("CLOCK/REVISION"), 0u);
+  Quit();
 
   // A name that doesn't end in ".io" is shown as well.
   fs::copy_file(workspace.Native("lumen2.io"), workspace.Native("lumen.def"));
@@ -93,14 +71,8 @@ TEST_F(Keeping, TheLayoutOfTheWindowComesBack) {
   Start();
   Window().resize(820, 540);
   Window().ViewFrame()->setFloating(true);
-  InNextDialog([](QWidget& dialog) {
-    auto* list = dialog.findChild<QListWidget*>();
-    EXPECT_EQ(list->count(), 8);
-    EXPECT_EQ(list->item(3)->text(), "Print");
-    list->setCurrentRow(3);
-    QTest::keyClick(list, Qt::Key_Space);
-    PressButton(dialog, QDialogButtonBox::Ok);
-  });
+  EXPECT_EQ(Component().View()->dock_state, DockWindow::kFloating) << "the user's own docking counts";
+  TogglePrintButton();
   ASSERT_TRUE(Menu("Register|Customize toolbar..."));
   Settle();
   ASSERT_TRUE(Answered());
@@ -118,7 +90,7 @@ TEST_F(Keeping, TheLayoutOfTheWindowComesBack) {
     for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
       if (button->text() == "&Reset") QTest::mouseClick(button, Qt::LeftButton);
     }
-    PressButton(dialog, QDialogButtonBox::Ok);
+    Press(dialog, QDialogButtonBox::Ok);
   });
   ASSERT_TRUE(Menu("Register|Customize toolbar..."));
   Settle();
@@ -138,13 +110,10 @@ TEST_F(Keeping, FontAndColoursAreChosenInTheFormatDialog) {
   Start();
   InNextDialog([](QWidget& dialog) {
     EXPECT_EQ(dialog.windowTitle(), "Format - IO");
-    EXPECT_EQ(dialog.findChild<QListWidget*>()->item(0)->text(), "Text");
     EXPECT_EQ(dialog.findChild<QFontComboBox*>()->currentText(), "Courier New");
     auto* size = dialog.findChild<QSpinBox*>();
     EXPECT_EQ(size->value(), 11);
-    const QList<QComboBox*> boxes = dialog.findChildren<QComboBox*>();
-    QComboBox* text = boxes[1];
-    EXPECT_EQ(text->count(), 20);
+    QComboBox* text = dialog.findChildren<QComboBox*>()[1];
     EXPECT_EQ(text->currentText(), "SYSTEM");
     QTest::keyClicks(text, "DARKBLUE");
     EXPECT_EQ(text->currentText(), "DARKBLUE");
@@ -153,9 +122,9 @@ TEST_F(Keeping, FontAndColoursAreChosenInTheFormatDialog) {
       EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(0, 0, 0x80));
     }
     QTest::keyClick(size, Qt::Key_Up);
-    PressButton(dialog, QDialogButtonBox::Apply);
+    Press(dialog, QDialogButtonBox::Apply);
     QTest::keyClick(size, Qt::Key_Up);
-    PressButton(dialog, QDialogButtonBox::Cancel);
+    Press(dialog, QDialogButtonBox::Cancel);
   });
   const int line = Grid().GetLineHeight();
   ASSERT_TRUE(Menu("View|Format..."));
@@ -164,7 +133,7 @@ TEST_F(Keeping, FontAndColoursAreChosenInTheFormatDialog) {
   const UserSettings& settings = Host().settings;
   EXPECT_EQ(std::get<std::int32_t>(*settings.Find(u"", u"PVW_IO_FONT_SIZE")), 12) << "the last was cancelled";
   EXPECT_EQ(std::get<std::int32_t>(*settings.Find(u"", u"PVW_IO_FGCOLOUR")), 10);
-  EXPECT_THAT(ReadAll(settings_file), HasSubstr("PVW_IO_FGCOLOUR")) << "at once on the disk";
+  EXPECT_THAT(ReadFile(settings_file), HasSubstr("PVW_IO_FGCOLOUR")) << "at once on the disk";
 
   Quit();
   Start();
@@ -182,15 +151,8 @@ TEST_F(Keeping, FilesThatCantBeUsedAreToldOfAndKeptAside) {
   EXPECT_THAT(told, HasSubstr("session.json"));
   EXPECT_NE(Component().View(), nullptr);
   Quit();
-
-  int kept = 0;
-  for (const fs::path& folder : {fs::path(settings_file).parent_path(), SessionFile().parent_path()}) {
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-      const std::string text = ReadAll(entry.path());
-      if (text == "{\"settings\": [" || text == "no session") ++kept;
-    }
-  }
-  EXPECT_EQ(kept, 2) << "nothing that could be mended by hand is lost";
+  EXPECT_EQ(ReadFile(settings_file + ".bad") + ReadFile(SessionFile().string() + ".bad"),
+            "{\"settings\": [no session");
 }
 
 TEST_F(Keeping, AStoreThatCantBeWrittenIsToldOfAndTheProgramGoesOn) {
@@ -202,7 +164,6 @@ TEST_F(Keeping, AStoreThatCantBeWrittenIsToldOfAndTheProgramGoesOn) {
   ASSERT_TRUE(Menu("File|Save Session"));
   ASSERT_TRUE(Until([&] { return !told.empty(); }));
   EXPECT_THAT(told, HasSubstr("session.json"));
-  EXPECT_TRUE(Window().isVisible());
   fs::remove(workspace.Native(".ioview"));
   ASSERT_TRUE(Menu("File|Save Session"));
   EXPECT_TRUE(fs::exists(SessionFile())) << "a second try writes it";

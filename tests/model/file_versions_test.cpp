@@ -1,10 +1,11 @@
-// The records that a definition file of each version yields. What all versions do alike is told once for the
-// three; tables follow for what one of them reads in its own way.
+// The records that a definition file of each version yields: what all versions do alike, and what one of them
+// does in its own way. Behind them modules whose values can be edited only while a bit of a register has a
+// certain value.
 
+#include "model/io_rec_module.h"
 #include "model/io_rec_module1.h"
 #include "model/io_rec_module2.h"
 #include "model/io_rec_module3.h"
-#include "model/io_rec_reg2.h"
 #include "tests/model/record_tree.h"
 
 namespace pvw::test {
@@ -13,7 +14,6 @@ namespace {
 using platform::E_FAIL;
 using platform::S_OK;
 using testing::ElementsAre;
-using testing::ElementsAreArray;
 using testing::IsEmpty;
 
 // PORT with PDATA, a byte, and PCTRL, a word at an odd address.
@@ -79,42 +79,19 @@ TEST_P(EveryVersion, ARefreshReadsWhatAPaneHasOpenAndAFailedReadStopsNothing) {
   EXPECT_EQ(Record("PORT/PCTRL").GetAddressText(1), "H'00FEFFF4");
 }
 
-TEST_P(EveryVersion, AChosenRegisterThatTheFileLosesStaysAsMissingAndComesBack) {
-  const std::string rows = "PDATA | H'00FF0000 | 00" + Access() + "\n";
-  const std::string word = " | H'00FF0003 | 0304" + Access();
-  data.ParseSelection("{port?{p c t r l?}}");
+TEST_P(EveryVersion, NothingIsReadOrWrittenOfAChosenRegisterThatTheFileLacks) {
+  data.ParseSelection("{port?{p c t r l?GONE?}}");
   Load(Port(GetParam()));
-  EXPECT_EQ(Rows(), "PORT +\n");
   Open("PORT");
-
-  std::string without = Port(GetParam());
-  without.replace(without.find("PCTRL"), 5, "OTHER");
-  Load(without);
-  Open("PORT");
-  EXPECT_EQ(RowsOf("PORT"), rows + "OTHER" + word + "\nPCTRL +!\n");
-  // It is a child of the module like any other, but nothing of it is read or written.
-  CIORec& missing = Record("PORT/PCTRL");
+  EXPECT_EQ(RowsOf("PORT"), "PDATA | H'00FF0000 | 00" + Access() + "\nPCTRL | H'00FF0003 | 0304" + Access() +
+                                " +\nGONE +!\n");
+  CIORec& missing = Record("PORT/GONE");
   host.ClearTranscript();
   EXPECT_EQ(missing.ReadValue(host.Debugger()), S_OK);
   EXPECT_EQ(missing.WriteValue(host.Debugger()), S_OK);
   EXPECT_FALSE(missing.SetValue(host.Debugger(), 1));
   EXPECT_FALSE(missing.EditValue(host.Debugger(), nullptr, &host));
   EXPECT_THAT(host.Transcript(), IsEmpty());
-
-  Load(Port(GetParam()));
-  Open("PORT");
-  EXPECT_EQ(RowsOf("PORT"), rows + "PCTRL" + word + " +\n");
-}
-
-TEST_P(EveryVersion, AModuleWithoutASection) {
-  const bool fault = GetParam() == 2;
-  Load(Definition(GetParam(), ""));
-  EXPECT_EQ(Open("PORT"), !fault);
-  EXPECT_EQ(Rows(), "PORT\n");
-  EXPECT_EQ(Record("PORT").HasChildren(), GetParam() == 1) << "looks at the section again the next time";
-  const std::string text =
-      "message [stop]: Error in I/O file: bit field description of register 'PORT' not found.";
-  EXPECT_THAT(messages.Lines(), ElementsAreArray(std::vector<std::string>(fault ? 1 : 0, text)));
 }
 
 TEST_F(RecordTreeTest, TheVersionIsTheFirstButForTwoAndThreeAndTheListOfModulesEndsAtAGap) {
@@ -122,6 +99,10 @@ TEST_F(RecordTreeTest, TheVersionIsTheFirstButForTwoAndThreeAndTheListOfModulesE
   file.Open(dir.Path("nowhere.io"), 0);
   EXPECT_EQ(data.LoadModules(&file), S_OK);
   EXPECT_EQ(data.GetModuleCount(), 0u);
+  Load("[Modules]\nModule1=\nModule2=M\n");
+  EXPECT_EQ(data.GetModuleCount(), 0u);
+  Load(Definition(1, ""));
+  EXPECT_TRUE(Open("PORT") && Record("PORT").HasChildren()) << "looks for a section again the next time";
   const auto load = [&](const std::string& version) {
     Load("[Modules]\n" + version + "\nModule1=M\nModule2=M\nModule4=M\n");
     EXPECT_EQ(data.GetModuleCount(), 2u);
@@ -132,43 +113,6 @@ TEST_F(RecordTreeTest, TheVersionIsTheFirstButForTwoAndThreeAndTheListOfModulesE
   }
   EXPECT_NE(dynamic_cast<CIORecModule2*>(load("FileVersion=0x2")), nullptr);
   EXPECT_NE(dynamic_cast<CIORecModule3*>(load("FileVersion=03")), nullptr);
-}
-
-TEST_F(RecordTreeTest, RegistersOfVersions1And3) {
-  // With the file base FF0000 and the effective base 1FF0000. The target answers with the low bytes of its
-  // addresses.
-  const struct {
-    const char* what;
-    int version;
-    const char* value;
-    const char* rows;
-  } kRows[] = {
-      {"relocatable", 1, "FF0000 B I", "R | H'01FF0000 | 00\n"},
-      {"absolute, parted by tabs", 1, "FF0012\tW\tA", "R | H'00FF0012 | 1213\n"},
-      {"from the file base", 1, "100 L R", "R | H'00FF0100 | 00010203\n"},
-      {"letters need no blank between", 1, "FF0010LA", "R | H'00FF0010 | 10111213\n"},
-      {"a wrong size is a byte", 1, "FF0010 X A", "R | H'00FF0010 | 10\n"},
-      {"no address counts as 0, and nothing behind it is taken", 1, "size W A", "R | H'01000000 | 00\n"},
-      {"no more than an address", 3, "reladdr=10", " | H'02000010 | 10 | RW\n"},
-      {"every key", 3, "name=R\nreladdr=0x10\nsize=16\nradix=d\nread=1\nwrite=0",
-       "R | H'02000010 | 04113 | R\n"},
-      {"write only, a size in octal with text behind it", 3, "reladdr=10\nread=0\nsize=040 bits",
-       " | H'02000010 | 10111213 | W\n"},
-      {"a size and flags that there aren't", 3, "reladdr=10\nsize=24\nread=00\nwrite=x",
-       " | H'02000010 | 10 | RW\n"},
-      {"bit fields up to a gap, whatever is missing in their sections", 3,
-       "reladdr=5A\nwrite=0\nbitfield0=A\nbitfield1=B\nbitfield2=C\nbitfield3=D\nbitfield5=A\n"
-       "[A]\nname=HIGH\nbit=4\nlen=0x4\n[B]\nname=NOBIT\nlen=2\n[C]\nname=BADLEN\nbit=1\nlen=x",
-       " | H'0200005A | 5A | R\n  HIGH |  | 5 | R\n  NOBIT |  | 2 | R\n  BADLEN |  | 1 | R\n   |  | 0 | R\n"},
-  };
-  for (const auto& row : kRows) {
-    // In version 3 the effective base and the module's address are both added, whatever `abs` says.
-    const std::string module = row.version == 1 ? "R=" : "addr=1000000\nabs=1\nreg0=S\n[S]\n";
-    Load(Definition(row.version, "[PORT]\n" + module + row.value + "\n"), 0x1FF0000);
-    Open("PORT");
-    EXPECT_EQ(RowsOf("PORT"), row.rows) << row.what;
-  }
-  EXPECT_THAT(messages.Lines(), IsEmpty());
 }
 
 TEST_F(RecordTreeTest, ALongSectionOfVersion1IsReadWholeAndARepeatedKeyGivesItsFirstValueAgain) {
@@ -182,45 +126,16 @@ TEST_F(RecordTreeTest, ALongSectionOfVersion1IsReadWholeAndARepeatedKeyGivesItsF
   EXPECT_EQ(registers[20000]->GetName() + registers[20000]->GetAddressText(0), "register7H'00000007");
 }
 
-constexpr const char* kBadAddress =
-    "message: 'R' Register Address format is wrong.\\nThe Register Address format must be with prefix "
-    "0x.Eg:0x0000FFFF.";
-constexpr const char* kBadSize =
-    "message: 'R' Register Size format is wrong.\\nThe Register Size format must be only B (Byte),W(Word) or "
-    "L(Long Word).";
-constexpr const char* kBadFlag =
-    "message: 'R' Absolute format is wrong.\\nThe Absolute flag format must be I, A or R.\\n";
-constexpr const char* kBadRadix =
-    "message: 'R' Register output format is wrong.\\nThe Register output format value must be "
-    "H(Hexadecimal),D(Decimal) or B(Binary)";
-
-TEST_F(RecordTreeTest, TheLineOfAVersion2Register) {
-  const struct {
-    const char* what;
-    const char* id;
-    const char* row;
-    std::vector<std::string> faults;
-  } kRows[] = {
-      {"decimal", "R 0x10 W A D", "R | H'00000010 | 00000", {}},
-      {"binary, small letters", "R 0x10 b r b", "R | H'00FF0010 | 00000000", {}},
-      {"the address alone", "R 0x10", "R | H'01000010 | 00", {}},
-      {"no prefix", "R FF0000 B A", "R | H'00FF0000 | 00", {kBadAddress}},
-      {"a minus at the start belongs to the name", "-0x5 0x10 B A", "-0x5 | H'00000010 | 00", {}},
-      {"a prefix of another field", "R 10 B A H 0x", "R | H'00000010 | 00", {}},
-      {"a minus in the bit section's name", "R 0x10 B A H P-0x", "R | H'00000010 | 00", {kBadAddress}},
-      {"another size", "R 0x10 Q A D", "R | H'00000010 | 000", {kBadSize}},
-      {"another flag acts as I", "R 0x10 W Q H", "R | H'01000010 | 0000", {kBadFlag}},
-      {"another radix", "R 0x10 W A Q", "R | H'00000010 | 0000", {kBadRadix}},
-      {"a word for the radix", "R 0x10 B A HEX BITS", "R | H'00000010 | 00", {kBadRadix}},
-      {"all of them", "R 10 X Y Z", "R | H'01000010 | 00", {kBadAddress, kBadSize, kBadFlag, kBadRadix}},
-  };
-  for (const auto& row : kRows) {
-    Load(Definition(2, std::string("[PORT]\nreg0=S\n[S]\nid=") + row.id + "\n"), 0x1FF0000);
-    messages.Clear();
-    EXPECT_EQ(Record("PORT").LoadChildren(&file, nullptr), row.faults.empty()) << row.what;
-    EXPECT_EQ(RowsOf("PORT"), std::string(row.row) + "\n") << row.what;
-    EXPECT_THAT(messages.Lines(), ElementsAreArray(row.faults)) << row.what;
-  }
+TEST_F(RecordTreeTest, AWrongLineOfVersion2CountsAsARelocatableByteAndItsProtectionIsKept) {
+  Load(Definition(2, "[PORT]\nreg0=S\n[S]\nid=R 10 X Y Z BITS\n[BITS]\nProtection=W\xC3\x84RE 5a\n"),
+       0x1FF0000);
+  EXPECT_FALSE(Record("PORT").LoadChildren(&file, nullptr));
+  EXPECT_EQ(RowsOf("PORT"), "R | H'01000010 | 00\n");
+  EXPECT_EQ(messages.Lines().size(), 4u);
+  CIORec& reg = Record("PORT/R");
+  reg.LoadChildren(&file, nullptr);
+  EXPECT_EQ(reg.GetRegister()->GetProtectionTag(), "W\xC3\x84R") << "three letters of it";
+  EXPECT_EQ(reg.GetRegister()->GetProtectionValue(), 0x5Au);
 }
 
 TEST_F(RecordTreeTest, AFaultStopsAVersion2ModuleAndASecondAttemptOrAReloadBeginsAnew) {
@@ -257,35 +172,6 @@ TEST_F(RecordTreeTest, AFaultStopsAVersion2ModuleAndASecondAttemptOrAReloadBegin
   }
 }
 
-TEST_F(RecordTreeTest, TheBitSectionOfVersion2) {
-  const struct {
-    const char* what;
-    const char* section;
-    const char* rows;  // with the register's value 5A
-    std::string protection = "0";
-  } kRows[] = {
-      {"no entry at all", "", ""},
-      {"in order, length 1 if none is given", "bit4=HIGH 4\nBIT1=ONE\n", "HIGH |  | 5\nONE |  | 1\n"},
-      {"other keys are skipped", "x=1\nbi=N 1\nBit0=LOW 4 rest\n", "LOW |  | A\n"},
-      {"a length that is no number is 1", "bit1=ONE x\n", "ONE |  | 1\n"},
-      {"a key without a number ends it", "bit0=LOW 4\nbitfield=N\nbit4=HIGH 4\n", "LOW |  | A\n"},
-      {"so does one without a name", "bit0=LOW 4\nbit1=\nbit4=HIGH 4\n", "LOW |  | A\n"},
-      {"PROTECTION is kept apart", "bit0=LOW 4\nProtection=W\xC3\x84RE 5a\n", "LOW |  | A\n", "W\xC3\x84R90"},
-      {"PROTECTION without a number ends it too", "protection=RO z\nbit4=HIGH 4\n", ""},
-      {"a repeated key gives its first value again", "bit0=LOW 4\nbit0=X 2\n", "LOW |  | A\nLOW |  | A\n"},
-  };
-  for (const auto& row : kRows) {
-    Load(Definition(2, std::string("[PORT]\nreg0=S\n[S]\nid=R 0x5A B A H BITS\n[BITS]\n") + row.section));
-    EXPECT_TRUE(Open("PORT"));
-    EXPECT_EQ(RowsOf("PORT/R"), row.rows) << row.what;
-    const CIORegisterID* reg = Record("PORT/R").GetRegister();
-    EXPECT_EQ(reg->GetProtectionTag() + std::to_string(reg->GetProtectionValue()), row.protection)
-        << row.what;
-  }
-  EXPECT_THAT(messages.Lines(), ElementsAre("message [stop]: Error in I/O file: bit field description of "
-                                            "register 'R' not found."));
-}
-
 TEST_F(RecordTreeTest, TheKeysOfABitSectionEndAfter8190BytesOfNames) {
   std::string section;
   for (int i = 1000; i < 2100; ++i) section += "bit" + std::to_string(i) + "=F" + std::to_string(i) + "\n";
@@ -319,6 +205,86 @@ TEST_F(RecordTreeTest, SectionsThatNameEachOtherAThousandfoldStopAtALimit) {
   CIORec::SetMaxBytes(before);
   data.DeleteModules();
   EXPECT_TRUE(CIORec::HasRoom());
+}
+
+// PORT with the register PDATA, which depends by the line or keys `dep` on a register at 20.
+std::string Dependent(int version, const std::string& dep) {
+  return Definition(version, "[PORT]\naddr=20\n" + dep + "\nreg0=D\n" +
+                                 (version == 2 ? "[D]\nid=PDATA 0x10 B A H BITS\n[BITS]\nbit0=LOW\n"
+                                                 "[CLK]\nid=CLKCTL 0x20 B A\n[BAD]\nid=BAD 20 B A\n"
+                                               : "[D]\nname=PDATA\nreladdr=10\nbitfield0=F\n[F]\nname=LOW\n"
+                                                 "bit=0\n[CLK]\nreladdr=0\n[BAD]\nname=BAD\n"));
+}
+
+TEST_F(RecordTreeTest, ADependencyFollowsTheBitAsItWasLastRead) {
+  data.ParseSelection("{PORT?{GONE?{DEEPER?}}}");
+  for (const auto& [version, dep] :
+       {std::pair(2, "dep=CLK  3 0"), {3, "dep_reg=clk\ndep_bit=35\ndep_val=0"}}) {
+    host.Poke(0x20, {0xF7});
+    ASSERT_EQ(Load(Dependent(version, dep)), S_OK);
+    ASSERT_TRUE(Open("PORT"));
+    const auto enabled = [&](const char* path) {
+      Record(path).UpdateEnabled();
+      return Record(path).IsEnabled();
+    };
+    EXPECT_TRUE(enabled("PORT/PDATA/LOW"));
+    host.Poke(0x20, {0x08});
+    host.ClearTranscript();
+    Refresh();
+    EXPECT_EQ(host.Asked("ReadDirect").front(), "ReadDirect 00000020-00000020 width 1")
+        << "before the registers";
+    EXPECT_TRUE(Record("PORT/PDATA/LOW").IsEnabled()) << "until it is updated";
+    EXPECT_FALSE(enabled("PORT/PDATA/LOW"));
+    EXPECT_FALSE(Record("PORT/PDATA").IsEnabled() || Record("PORT").IsEnabled()) << "those above come along";
+    EXPECT_FALSE(enabled("PORT/GONE/DEEPER")) << "as all that is below the module";
+
+    host.Poke(0x20, {0xF7});
+    host.FailNext("ReadDirect");
+    Refresh();
+    EXPECT_FALSE(enabled("PORT/PDATA")) << "a failed read leaves the last value in force";
+    Refresh();
+    EXPECT_TRUE(enabled("PORT/PDATA"));
+  }
+}
+
+TEST_F(RecordTreeTest, WhatAModuleSaysOfItsDependency) {
+  const struct {
+    const char* what;
+    int version;
+    const char* dep;
+    platform::Status status;
+    bool dependent;
+    bool enabled;  // with all bits 0
+    std::size_t messages;
+  } kRows[] = {
+      {"bit must be 1", 2, "dep=CLK 3 1", S_OK, true, false, 0},
+      {"a blank in front", 2, "dep=' 3 0'", E_FAIL, false, true, 0},
+      {"one number, which is seen before the section's fault", 2, "dep=BAD 3", E_FAIL, false, true, 0},
+      {"a description with a fault", 2, "dep=BAD 3 0", E_FAIL, false, true, 1},
+      {"bit and value are 0 by default", 3, "dep_reg=CLK", S_OK, true, true, 0},
+      {"value 1", 3, "dep_reg=CLK\ndep_val=0x1", S_OK, true, false, 0},
+      {"a section with a fault, which isn't told", 3, "dep_reg=BAD", E_FAIL, false, true, 0},
+  };
+  for (const auto& row : kRows) {
+    messages.Clear();
+    EXPECT_EQ(Load(Dependent(row.version, row.dep)), row.status) << row.what;
+    auto& module = dynamic_cast<CIORecModule&>(Record("PORT"));
+    EXPECT_EQ(module.GetDependency() != nullptr, row.dependent) << row.what;
+    module.UpdateEnabled();
+    EXPECT_EQ(module.IsEnabled(), row.enabled) << row.what;
+    EXPECT_EQ(messages.Lines().size(), row.messages) << row.what;
+  }
+}
+
+TEST_F(RecordTreeTest, TheFirstDependencyThatFailsIsTheLastOneThatIsRead) {
+  // In version 3 the later modules then have no address either.
+  EXPECT_EQ(Load("[Modules]\nFileVersion=3\nModule1=A\nModule2=B\n[A]\naddr=100\ndep_reg=BAD\n[B]\naddr=300\n"
+                 "dep_reg=R\nreg0=R\n[R]\nname=R\nreladdr=1\n"),
+            E_FAIL);
+  EXPECT_EQ(dynamic_cast<CIORecModule&>(Record("A")).GetAddress(), 0x100u);
+  EXPECT_EQ(dynamic_cast<CIORecModule&>(Record("B")).GetDependency(), nullptr);
+  ASSERT_TRUE(Open("B"));
+  EXPECT_EQ(RowsOf("B"), "R | H'00000001 | 01 | RW\n");
 }
 
 }  // namespace

@@ -65,22 +65,12 @@ TEST(ProfileLine, IsAHeaderAnEntryOrNothing) {
 }
 
 TEST(ProfileText, FindsValues) {
-  const struct {
-    const char* why;
-    std::string text;
-    std::string_view section, key, value;
-  } cases[] = {
-      {"a lone CR ends no line", "[a]\rx=1\r[b]\rx=2", "b", "x", ""},
-      {"an entry above the first section belongs to none", "x=1\n[a]\n", "", "x", ""},
-      {"a section with an empty name", "x=1\n[]\nx=2\n", "", "x", "2"},
-      {"a byte order mark before a header", "\xEF\xBB\xBF[a]\nx=1\n", "a", "x", "1"},
-      {"a byte order mark elsewhere is text", "\n\xEF\xBB\xBF[a]\nx=1\n", "a", "x", ""},
-      {"a zero byte hides the rest of its line alone", "[a]\nx=1\0[b]\ny=2\n"s, "a", "y", "2"},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.why);
-    EXPECT_EQ(ProfileText(c.text).Value(c.section, c.key), c.value);
-  }
+  EXPECT_EQ(ProfileText("[a]\rx=1\r[b]\rx=2").Value("b", "x"), "") << "a lone CR ends no line";
+  EXPECT_EQ(ProfileText("x=1\n[a]\n").Value("", "x"), "") << "above the first section";
+  EXPECT_EQ(ProfileText("x=1\n[]\nx=2\n").Value("", "x"), "2") << "a section with an empty name";
+  EXPECT_EQ(ProfileText("\xEF\xBB\xBF[a]\nx=1\n").Value("a", "x"), "1") << "a byte order mark in front";
+  EXPECT_EQ(ProfileText("\n\xEF\xBB\xBF[a]\nx=1\n").Value("a", "x"), "") << "elsewhere it is text";
+  EXPECT_EQ(ProfileText("[a]\nx=1\0[b]\ny=2\n"s).Value("a", "y"), "2") << "a zero hides the rest of its line";
 }
 
 // Everything that a reading line by line finds, the index finds, and no more.

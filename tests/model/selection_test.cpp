@@ -13,7 +13,6 @@ TEST_F(RecordTreeTest, ATextIsReadAsFarAsItGoes) {
     const char* text;
     const char* rows;
   } kRows[] = {
-      {"nested items", "{A?{B?{C?}D?}E?}", "A +!\n  B +!\n    C +!\n  D +!\nE +!\n"},
       {"the first character isn't looked at", "xA?", "A +!\n"},
       {"an empty nested selection", "{A?{}B?{", "A +!\nB +!\n"},
       {"empty names", "{?{??}}", " +!\n +!\n +!\n"},
@@ -38,6 +37,7 @@ TEST_F(RecordTreeTest, ASelectionGoesToTheFirstRecordOfANameAndRepeatsAreMergedB
   EXPECT_THAT(host.Transcript(), IsEmpty()) << "a missing module is never read";
   data.ApplyChildSelection(&Record("A"), {"nothing", "A"});  // looks below A before A has given anything up
   Open("A");
+  EXPECT_EQ(Record("A").RemoveChild(3), nullptr) << "there is none";
   data.ApplyChildSelection(&Record("A/r"), {"r", "A"});
   EXPECT_EQ(RowsOf("A"), "R | H'00000000 | 00 +\nr | H'00000000 | 00\n  F +!\nX +!\n");
 }
@@ -138,16 +138,6 @@ TEST_F(RecordTreeTest, TwentyThousandModulesMeetAsManySelectedOnes) {
   EXPECT_EQ(RowsOf("MODULE20000"), "R | H'00000001 | 00 +\nS +!\n");
   data.CollectSelection();
   EXPECT_EQ(data.GetSelection().size(), std::size_t{kModules});
-}
-
-TEST_F(RecordTreeTest, FlagsGiveTheirOldValueAndAChildOutsideTheListIsNone) {
-  Load(Definition(1, "[PORT]\nR=0\n"));
-  Open("PORT");
-  CIORec& module = Record("PORT");
-  EXPECT_EQ(module.RemoveChild(1), nullptr);
-  EXPECT_EQ(module.GetChildren().size(), 1u);
-  EXPECT_FALSE(module.SetMissing(true));
-  EXPECT_TRUE(module.SetMissing(false));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // A host that closes the view, loads another file, or disconnects in the midst of what a pane is doing.
 
-#include "platform/gui/controls.h"
 #include "platform/gui/dialog.h"
 #include "platform/gui/list_edit.h"
 #include "platform/headless/user.h"
@@ -34,7 +33,7 @@ class InterruptedTest : public PaneStage {
       if (!shown.ends_with("dialog: Select IO Register\n")) event();
     };
     meanwhile = line;
-    for (const char* call : {"ReadDirect", "WriteBlock", "FireEvent", "AddCommand"})
+    for (const char* call : {"ReadDirect", "WriteBlock", "FireEvent", "AddCommand", "ParseValue"})
       host.during[call] = event;
     operation();
     host.during.clear();
@@ -48,11 +47,24 @@ class InterruptedTest : public PaneStage {
     if (file.IsOpen()) file.Close();
     data.DeleteModules(), data.DeleteSelection();
   }
-  void Load() { Pane(0).LoadIOFile(frame.path, 0); }
-  void Edit() {
+  void Load() {
+    if (panes[0] != nullptr) Pane(0).LoadIOFile(frame.path, 0);
+  }
+  void Rebuild() {
+    if (panes[1] != nullptr) Pane(1).RebuildTree();
+  }
+  void Edit(const char* text, const std::function<void()>& end) {
     if (!Tree(0).EditCell(Tree(0).GetSelectedItem(), 2)) return;
-    Tree(0).GetListEdit()->SetText("4b");
-    Tree(0).EndEdit();
+    Tree(0).GetListEdit()->SetText(text);
+    end();
+  }
+  // Types into the next dialog, and accepts it.
+  void Answer(const char* text) {
+    display.DropAnswers();
+    display.Give(platform::DialogAnswer{{[text](CDialog& dialog) {
+      user::TypeText(text);
+      user::PressOk(dialog);
+    }}});
   }
   // Either with PORT open in the first pane and all of it selected, or with no module read.
   void Begin(bool read) {
@@ -65,8 +77,9 @@ class InterruptedTest : public PaneStage {
   // Behind the closing of all its rows a module doesn't count as open, but for one with a fault.
   void ExpectNoCountLeft() {
     for (const auto& pane : panes) {
-      if (pane == nullptr) continue;
+      if (pane == nullptr || !pane->Exists()) continue;
       auto& tree = *static_cast<CTreeGridCtrl*>(platform::CWnd::FromHandle(pane->GetTreeWindow()));
+      EXPECT_FALSE(tree.IsEditing());
       if (tree.GetItemText(tree.GetRootItem(), 0) == "PORT") {
         tree.Expand(tree.GetRootItem(), platform::TVE_COLLAPSE);
       }
@@ -78,30 +91,30 @@ class InterruptedTest : public PaneStage {
 TEST_F(InterruptedTest, NothingIsTouchedThatHasGone) {
   frame.path = dir.Write("device.io", kFaulty);
   host.recorder_active = true;
+  const auto enter = [] { user::PressKey(platform::VK_RETURN); };
+  const auto click = [this] {
+    user::Click(Tree(0), Tree(0).GetPartPoint(Row(0, "PORT"), platform::TVHT_ONITEMLABEL));
+  };
+  const auto leave = [this] { platform::SetFocus(dock->window->GetHandle()); };
   const std::map<std::string, std::function<void()>> kOperations = {
       {"a row is opened", [this] { Close(0, "PORT"), Open(0, "PORT"); }},
       {"a module with a fault is opened", [this] { Open(0, "BAD"); }},
       {"a module without registers is opened", [this] { Open(0, "EMPTY"); }},
-      {"the rows are searched",
-       [this] {
-         display.DropAnswers();
-         display.Give(platform::DialogAnswer{{[](CDialog& dialog) {
-           user::TypeText("zzz");
-           user::PressOk(dialog);
-         }}});
-         Pane(0).RouteCommand(32820);
-       }},
+      {"the rows are searched", [this] { Answer("zzz"), Pane(0).RouteCommand(32820); }},
       {"registers are picked", [this] { Pane(0).RouteCommand(32819); }},
       {"a file is loaded", [this] { Load(); }},
       {"the values are refreshed", [this] { Pane(0).RouteCommand(32817); }},
-      {"the second pane is rebuilt", [this] { Pane(1).RebuildTree(); }},
-      {"a cell is edited", [this] { Edit(); }},
+      {"the second pane is rebuilt", [this] { Rebuild(); }},
+      {"Enter ends an edit", [&] { Edit("4b", enter); }},
+      {"a click ends an edit", [&] { Edit("4b", click); }},
+      {"the focus leaves an edit", [&] { Edit("4b", leave); }},
+      {"Enter ends a bad text", [&] { Edit("xyz", enter); }},
+      {"a click ends a bad text", [&] { Edit("xyz", click); }},
+      {"a click ends a large value", [&] { Edit("100", click); }},
+      {"the target refuses a value",
+       [&] { host.FailNext("WriteBlock"), Edit("4b", click), host.FailNone(); }},
       {"the dialog edits", [this] {
-         display.DropAnswers();
-         display.Give(platform::DialogAnswer{{[](CDialog& dialog) {
-           user::TypeText("5");
-           user::PressOk(dialog);
-         }}});
+         Answer("5");
          platform::SetFocus(Pane(0).GetTreeWindow());
          user::PressKey(platform::VK_RETURN);
        }}};
@@ -109,14 +122,9 @@ TEST_F(InterruptedTest, NothingIsTouchedThatHasGone) {
       {"closes the view", [this] { CloseView(); }},
       {"closes a pane", [this] { ClosePane(1); }},
       {"disconnects", [this] { Disconnect(); }},
-      {"loads",
-       [this] {
-         if (panes[0] != nullptr) Load();
-       }},
-      {"rebuilds",
-       [this] {
-         if (panes[1] != nullptr) Pane(1).RebuildTree();
-       }},
+      {"destroys the window", [this] { host.Ui().DestroyDock(dock->window->GetHandle()); }},
+      {"loads", [this] { Load(); }},
+      {"rebuilds", [this] { Rebuild(); }},
       {"opens the row itself", [this] {
          if (panes[0] != nullptr && Tree(0).GetRootItem() != 0)
            Tree(0).Expand(Tree(0).GetRootItem(), platform::TVE_EXPAND);
@@ -151,6 +159,26 @@ TEST_F(InterruptedTest, PickingRegistersEndsCancelledWhenTheirRecordsGo) {
   meanwhile = [&] { ClosePane(0); };
   EXPECT_TRUE(Pane(0).RouteCommand(32819));
   EXPECT_THAT(shown, testing::HasSubstr("message [stop]"));
+}
+
+TEST_F(InterruptedTest, NothingIsWrittenWhenTheRecordLeavesTheTreeUnderItsDialog) {
+  const std::string other = dir.Write("other.io", "[Modules]\n");
+  for (const char* const path : {"PORT/PDATA", "PORT/PDATA/LOW", "PORT/PDIR"}) {
+    // A selected one lives on as missing, the others are destroyed.
+    for (const char* const selection : {"", "{PORT?{PDATA?{LOW?}PDIR?}}"}) {
+      frame.path = dir.Write("device.io", kFaulty);
+      OpenView(selection);
+      Open(0, "PORT"), Open(0, "PORT/PDATA");
+      Tree(0).SelectItem(Row(0, path));
+      Answer("1");
+      meanwhile = [&] { Pane(0).LoadIOFile(other, 0); };
+      platform::SetFocus(Pane(0).GetTreeWindow());
+      user::PressKey(platform::VK_RETURN);
+      EXPECT_FALSE(meanwhile) << "there was a dialog";
+      Disconnect();
+    }
+  }
+  EXPECT_THAT(host.Asked("WriteBlock"), testing::IsEmpty());
 }
 
 TEST_F(InterruptedTest, AViewThatClosesUnderTheFileDialogWritesNothing) {

@@ -3,7 +3,6 @@
 #include "platform/gui/dialog.h"
 #include "platform/headless/user.h"
 #include "tests/view/pane_stage.h"
-#include "view/dlg_progress.h"
 
 namespace pvw::test {
 namespace {
@@ -28,10 +27,10 @@ class ProgressTest : public PaneStage {
     dir.Write("device.io", text + sections);
     OpenView(selection + "}");
   }
-  int OpenRows(std::size_t pane = 1) {
+  int OpenRows() {
     int open = 0;
-    for (HTREEITEM row = Tree(pane).GetRootItem(); row != 0; row = Tree(pane).GetNextSiblingItem(row)) {
-      open += Tree(pane).IsExpanded(row) ? 1 : 0;
+    for (HTREEITEM row = Tree(1).GetRootItem(); row != 0; row = Tree(1).GetNextSiblingItem(row)) {
+      open += Tree(1).IsExpanded(row) ? 1 : 0;
     }
     return open;
   }
@@ -68,18 +67,6 @@ TEST_F(ProgressTest, ItEndsWithItsPane) {
   display.Give(DialogAnswer{{Once(2, [&](CDialog&) { ClosePane(1); })}, true});
   Pane(1).RebuildTree();
   EXPECT_FALSE(Record("M1").IsExpanded());
-
-  // Inside of a read, and so inside of the worker's call.
-  ClosePane(0);
-  data.DeleteModules(), data.DeleteSelection();
-  OpenModules(5);
-  int reads = 0;
-  host.during["ReadDirect"] = [&] {
-    if (++reads == 3) ClosePane(1), ClosePane(0);
-  };
-  Pane(1).RebuildTree();
-  EXPECT_EQ(reads, 3);
-  EXPECT_FALSE(Record("M2").IsExpanded());
 }
 
 TEST_F(ProgressTest, ALoadInTheMidstOfItStartsAnew) {
@@ -88,19 +75,6 @@ TEST_F(ProgressTest, ALoadInTheMidstOfItStartsAnew) {
       DialogAnswer{{Once(2, [&](CDialog&) { Pane(0).LoadIOFile(dir.Path("device.io"), 0); })}, true});
   Pane(1).RebuildTree();
   EXPECT_EQ(OpenRows(), 6);
-  EXPECT_EQ(shown, std::string(kLoading) + kLoading);
-}
-
-TEST_F(ProgressTest, TwoDialogsShareOneCountAndBothEnd) {
-  OpenModules(6);
-  display.Give(DialogAnswer{{Once(2,
-                                  [&](CDialog&) {
-                                    CDlgProgress inner(4, Pane(0));
-                                    inner.DoModal();
-                                  })},
-                            true});
-  Pane(1).RebuildTree();
-  EXPECT_LE(OpenRows(0) + OpenRows(1), 6) << "each lowers the count for both";
   EXPECT_EQ(shown, std::string(kLoading) + kLoading);
 }
 

@@ -3,7 +3,6 @@
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qprocess.h>
 #include <QtGui/qwindow.h>
-#include <QtWidgets/qlineedit.h>
 
 #include <cstdio>
 

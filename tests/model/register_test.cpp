@@ -1,14 +1,63 @@
-// A bit field against its register: what it shows, and what of the register its writing changes.
+// One register against its target: which access it makes, what it keeps, what it shows. A bit field against
+// its register: what it shows, and what of the register its writing changes.
 
+#include "host/ids.h"
 #include "model/io_rec_bitfield2.h"
 #include "model/io_rec_reg2.h"
+#include "model/io_register_id.h"
 #include "tests/model/record_tree.h"
 
 namespace pvw::test {
 namespace {
 
+using platform::E_FAIL;
+using platform::S_OK;
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+CIORegisterID& Place(CIORegisterID& reg, std::uint32_t address, std::uint32_t size) {
+  reg.Set({"R", address, size, false, Radix::kHexadecimal, {}});
+  return reg;
+}
+
+class RegisterIdTest : public RecordTreeTest {
+ protected:
+  CIORegisterID reg{&host};
+};
+
+TEST_F(RegisterIdTest, AReadSetsTheLowWordAndAFailedOneNothing) {
+  Place(reg, 0x20, 1).SetValue(0x7'000000FF);
+  ASSERT_EQ(reg.Read(host.Debugger()), S_OK);
+  host.ClearTranscript();
+  EXPECT_EQ(reg.Read(nullptr), E_FAIL);
+  EXPECT_THAT(host.Transcript(), IsEmpty());
+  host.FailNext("ReadDirect");
+  EXPECT_EQ(reg.Read(host.Debugger()), E_FAIL);
+  UnbindDebuggerFunctions(&host);
+  EXPECT_EQ(reg.Read(host.Debugger()), E_FAIL) << "no entry to read by";
+  EXPECT_EQ(reg.GetValue(), 0x7'00000020u);
+  EXPECT_EQ(reg.GetValueText(), "20");
+  EXPECT_THAT(messages.Lines(), IsEmpty());
+}
+
+TEST_F(RegisterIdTest, AWriteIsRecordedOnceItIsDone) {
+  host.recorder_active = true;
+  Place(reg, 0xFFFFFFFD, 4).SetValue(0x9'00001234);
+  host.ClearTranscript();
+  EXPECT_EQ(reg.Write(nullptr), S_OK);
+  EXPECT_THAT(host.Asked("WriteBlock"), ElementsAre("WriteBlock FFFFFFFD-00000000 flag 0: 00 00 12 34"));
+  EXPECT_EQ(host.Transcript().back(), "AddCommand memory_fill 0xFFFFFFFD 0x0 0x1234 LONG");
+}
+
+TEST_F(RegisterIdTest, TheAddressTextIsTheHostsAndEmptyWithoutIt) {
+  EXPECT_EQ(Place(reg, 0xFFFFFFFF, 1).GetAddressText(2), "H'00000001");
+  EXPECT_EQ(host.Transcript().back(), "FormatAddress 00000001 space 0 mask FFFFFFFF flags 0");
+  host.text_on_failure = "leaks when it isn't freed";
+  host.FailNext("FormatAddress");
+  EXPECT_EQ(reg.GetAddressText(0), "");
+  host.Lack(IID_IQAddressFormat);
+  EXPECT_EQ(Place(reg, 0, 1).GetAddressText(0), "");
+}
 
 class BitfieldTest : public RecordTreeTest {
  protected:
@@ -72,18 +121,6 @@ TEST_F(BitfieldTest, RefusesWhatIsTooBigWithItsLimit) {
                             row.limit + "."));
   }
   EXPECT_THAT(host.Asked("WriteBlock"), IsEmpty());
-}
-
-TEST_F(BitfieldTest, WritesTheWholeRegisterFromTheCacheWithoutReadingIt) {
-  Make(1, 3, 2, 0x00A5);
-  EXPECT_FALSE(field.SetValue(host.Debugger(), 2)) << "the value that it has";
-  EXPECT_THAT(host.Asked("WriteBlock"), IsEmpty());
-  EXPECT_TRUE(field.SetValue(host.Debugger(), 5));
-  EXPECT_THAT(host.Asked("WriteBlock"), ElementsAre("WriteBlock 00000100-00000101 flag 0: 00 AB"));
-  EXPECT_THAT(host.Asked("ReadDirect"), IsEmpty());
-  host.FailNext("WriteBlock");
-  EXPECT_FALSE(field.SetValue(host.Debugger(), 0));
-  EXPECT_EQ(Cached(), 0xA1u) << "stays until the next read";
 }
 
 }  // namespace
