@@ -46,8 +46,9 @@ Status CPvwIOApp::GetVersion(std::uint32_t* major, std::uint32_t* minor) {
 }
 
 Status CPvwIOApp::CreateInstance(void* instance) {
-  DestroyInstance(instance);
-  m_instances[instance] = TryMakeControl();
+  // The new one stands before the old one's end calls the host.
+  std::unique_ptr<CPvwIODataCtrl> old = std::exchange(m_instances[instance], TryMakeControl());
+  if (old != nullptr) CPvwIODataCtrl::End(std::move(old));
   return S_OK;
 }
 

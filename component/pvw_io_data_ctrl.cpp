@@ -80,6 +80,11 @@ CPvwIODataCtrl::Call::~Call() {
   const std::unique_ptr<CPvwIODataCtrl> ended = std::move(control.itself);
 }
 
+CPvwIODataCtrl::~CPvwIODataCtrl() {
+  // The target may have connected behind the end, in the rest of the call that the end came in.
+  UnbindHost();
+}
+
 void CPvwIODataCtrl::End(std::unique_ptr<CPvwIODataCtrl> control) {
   CPvwIODataCtrl& ending = *control;
   const Call call(ending);
@@ -112,9 +117,15 @@ Status CPvwIODataCtrl::Connect(IQComponentHost* component_host, std::int16_t fla
   const Call call(*this);
   if (host != nullptr) Disconnect(flag);
   if (itself != nullptr) return E_FAIL;
-  change = Change::kConnect;
-  const Status status = ConnectAnew(component_host, flag);
-  change = Change::kNone;
+  Status status = E_FAIL;
+  try {
+    const Changing connecting(*this, Change::kConnect);
+    status = ConnectAnew(component_host, flag);
+  } catch (...) {
+    // A wrong debugger library throws its way out through the host.
+    if (std::exchange(disconnectDue, false)) Disconnect(flag);
+    throw;
+  }
   if (!std::exchange(disconnectDue, false)) return status;
   Disconnect(flag);
   return E_FAIL;
@@ -156,7 +167,7 @@ Status CPvwIODataCtrl::Disconnect(std::int16_t flag) {
     return S_OK;
   }
   const Call call(*this);
-  change = Change::kDisconnect;
+  const Changing disconnecting(*this, Change::kDisconnect);
   if (connectHost != nullptr) {
     connectHost->RemoveClient(&IID_IQSteppingClient, static_cast<IQSteppingClient*>(this));
     connectHost = nullptr;
@@ -165,9 +176,7 @@ Status CPvwIODataCtrl::Disconnect(std::int16_t flag) {
     const CModuleState state;
     resources.reset();
   }
-  const Status status = CPvwDebugDataCtrl::Disconnect(flag);
-  change = Change::kNone;
-  return status;
+  return CPvwDebugDataCtrl::Disconnect(flag);
 }
 
 void CPvwIODataCtrl::OnConnected() {

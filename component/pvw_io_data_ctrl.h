@@ -16,9 +16,10 @@ namespace pvw {
 
 class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, public IQTestComponentGroup {
  public:
+  ~CPvwIODataCtrl() override;
   // Disconnects first where the host hasn't, then destroys the control. The host may ask for the end from
-  // inside a call that the control is in: then the control is out of use at once, and goes with the end of
-  // the outermost call.
+  // inside a call of an interface of the control: then the control is out of use at once, and goes with the
+  // end of the outermost call.
   static void End(std::unique_ptr<CPvwIODataCtrl> control);
 
   // One answer for all faces.
@@ -65,6 +66,17 @@ class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, p
     CPvwIODataCtrl& control;
   };
   enum class Change { kNone, kConnect, kDisconnect };
+  // What the control is in the midst of, for as long as this lives.
+  class Changing {
+   public:
+    Changing(CPvwIODataCtrl& changed, Change to) : control(changed) { control.change = to; }
+    Changing(const Changing&) = delete;
+    Changing& operator=(const Changing&) = delete;
+    ~Changing() { control.change = Change::kNone; }
+
+   private:
+    CPvwIODataCtrl& control;
+  };
 
   platform::Status ConnectAnew(IQComponentHost* component_host, std::int16_t flag);
   // False, and the user has been told, when there is no such library.
@@ -89,8 +101,8 @@ class CPvwIODataCtrl final : public CPvwDebugDataCtrl, public CSteppingClient, p
 
   int calls = 0;                           // of the host, that the control is in
   std::unique_ptr<CPvwIODataCtrl> itself;  // from End on
-  Change change = Change::kNone;           // what the control is in the midst of
-  bool disconnectDue = false;              // asked for in the midst of a connect
+  Change change = Change::kNone;
+  bool disconnectDue = false;  // asked for in the midst of a connect
 };
 
 }  // namespace pvw

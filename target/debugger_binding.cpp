@@ -58,12 +58,19 @@ void BindDebuggerFunctions(IQComponentHost* host, std::uint32_t /*mode*/) {
   SetCurrentDebugHost(host);
   g_debugHostEntries[host] = {};
 
-  auto made = std::make_unique<CDebugBinding>();
-  if (host != nullptr) made->m_pSession = std::make_unique<CDebugSession>(host);
-  CDebugBinding& binding = *made;
-  g_debugBindings[host] = std::move(made);
-  // The host may unbind itself, or bind anew, while it is asked.
+  // The host may unbind itself, or bind anew, while it is asked: for the session's services, then for the
+  // library.
   const BindingInUse asking;
+  CDebugBinding& binding = *(g_debugBindings[host] = std::make_unique<CDebugBinding>());
+  const auto stands = [&] {
+    const auto bound = g_debugBindings.find(host);
+    return bound != g_debugBindings.end() && bound->second.get() == &binding;
+  };
+  if (host != nullptr) {
+    auto session = std::make_unique<CDebugSession>(host);
+    if (!stands()) return;
+    binding.m_pSession = std::move(session);
+  }
 
   // All functions are there before the first is stored, so that a wrong library leaves none behind.
   std::array<void*, kLibraryFunctionCount> functions{};
@@ -73,8 +80,7 @@ void BindDebuggerFunctions(IQComponentHost* host, std::uint32_t /*mode*/) {
     }
   }
   const DebugEntries entries = DispatchFunctions();
-  const auto bound = g_debugBindings.find(host);
-  if (bound == g_debugBindings.end() || bound->second.get() != &binding) return;
+  if (!stands()) return;
   for (std::size_t i = 0; i < functions.size(); ++i) LibraryFunctions()[i].store(binding, functions[i]);
   binding.m_pfnExpEval64 = entries.EXP_Eval64;
   g_debugEntries = entries;

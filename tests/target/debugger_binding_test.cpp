@@ -172,6 +172,19 @@ TEST_F(BindingTest, AHostWithoutALibraryAfterAllLeavesEveryEntryToTheSession) {
   EXPECT_THAT(presenter_.Lines(), IsEmpty());
 }
 
+TEST_F(BindingTest, ATargetMayDropOffWhileItIsBound) {
+  for (int number = 0;; ++number) {
+    int left = number;
+    host_.during["GetService"] = [&] {
+      if (left-- == 0) UnbindDebuggerFunctions(&host_);
+    };
+    BindDebuggerFunctions(&host_, 1);
+    if (left >= 0) break;
+    EXPECT_TRUE(g_debugBindings.empty()) << number;
+    EXPECT_EQ(NullEntries(), 75u) << number;
+  }
+}
+
 TEST_F(BindingTest, ATargetMayDropOffInTheMidstOfARead) {
   BindDebuggerFunctions(&host_, 1);
   host_.FailNext("ReadDirect");
