@@ -55,8 +55,8 @@ const platform::MessageTable CDlgEditTestDetails::kMessages{
         platform::OnNotify<&CDlgEditTestDetails::OnItemChanged>(kList, platform::TVN_SELCHANGED),
     }};
 
-CDlgEditTestDetails::CDlgEditTestDetails(const ByName<CIORec*>& known, const ComparedRegisters& compared)
-    : CDlgWithHelp(IDD_EDIT_TEST_DETAILS, nullptr), m_known(known), m_compared(compared) {}
+CDlgEditTestDetails::CDlgEditTestDetails(std::vector<RegInfo> registers)
+    : CDlgWithHelp(IDD_EDIT_TEST_DETAILS, nullptr), m_items(std::move(registers)) {}
 
 void CDlgEditTestDetails::DoDataExchange(platform::CDataExchange& dx) {
   CDlgWithHelp::DoDataExchange(dx);
@@ -91,12 +91,6 @@ void CDlgEditTestDetails::OnOK() {
 // Rows ----------------------------------------------------------------------------------------------------
 
 void CDlgEditTestDetails::FillList() {
-  m_items.reserve(m_known.size());
-  for (const auto& [name, record] : m_known) {
-    m_items.push_back({record->GetName(), record->GetAddressText(0),
-                       static_cast<std::uint32_t>(record->GetValueText().size() / 2),
-                       m_compared.Contains(name)});
-  }
   for (RegInfo& info : m_items) {
     m_rows.push_back(&info);
     m_list.SetItemCheck(m_list.InsertItem(info.Name, -1), info.Checked);

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "frame/controls/dlg_with_help.h"
-#include "model/io_rec.h"
 #include "platform/gui/tree_ctrl.h"
 #include "testclient/compared_registers.h"
 
@@ -15,9 +14,15 @@ namespace pvw {
 
 class CDlgEditTestDetails final : public CDlgWithHelp {
  public:
-  // All registers, and those that are checked at first. Both are looked at while the dialog opens, and no
-  // later: what they hold may change under it.
-  CDlgEditTestDetails(const ByName<CIORec*>& known, const ComparedRegisters& compared);
+  struct RegInfo {
+    std::string Name;
+    std::string Address;
+    std::uint32_t Size;
+    bool Checked;
+  };
+
+  // All registers, in any order.
+  explicit CDlgEditTestDetails(std::vector<RegInfo> registers);
 
   static const platform::MessageTable kMessages;
 
@@ -33,12 +38,6 @@ class CDlgEditTestDetails final : public CDlgWithHelp {
   void OnOK() override;
 
  private:
-  struct RegInfo {
-    std::string Name;
-    std::string Address;
-    std::uint32_t Size;
-    bool Checked;  // as of the last TakeChecks
-  };
   // Of two equal texts the other one decides, from the least.
   enum class SortMode : std::uint32_t { kAddress, kAddressDown, kName, kNameDown };
 
@@ -53,13 +52,11 @@ class CDlgEditTestDetails final : public CDlgWithHelp {
   static SortMode ModeAfterClick(SortMode present, int column);
   static bool Before(SortMode mode, const RegInfo& a, const RegInfo& b);
 
-  const ByName<CIORec*>& m_known;
-  const ComparedRegisters& m_compared;
   platform::SECTreeCtrl m_list;
   std::string m_setting;
   SortMode m_sortMode = SortMode::kAddress;
   bool m_bReady = false;         // changes of the rows are the user's
-  std::vector<RegInfo> m_items;  // in any order
+  std::vector<RegInfo> m_items;  // checked as of the last TakeChecks
   std::vector<RegInfo*> m_rows;  // in the order of the rows
   ComparedRegisters m_chosen;
 };

@@ -1,5 +1,6 @@
 #include "testclient/test_client_io.h"
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -85,6 +86,9 @@ struct CTestClientIO::Registers {
   void Close();
   void Open(const std::string& path, IQComponentHost* host);
   void AddRegisters(const CIORec& module);
+  // By value: the host is asked for each address, and may hand over another text or end the client meanwhile.
+  static std::vector<CDlgEditTestDetails::RegInfo> DetailsOf(std::shared_ptr<Registers> registers,
+                                                             ComparedRegisters compared);
 
   CIOData m_data;
   CIODataFile m_file;
@@ -121,6 +125,20 @@ void CTestClientIO::Registers::AddRegisters(const CIORec& module) {
   for (const auto& record : module.GetChildren()) {
     if (record->IsEditable()) m_known.insert_or_assign(record->GetName(), record.get());
   }
+}
+
+std::vector<CDlgEditTestDetails::RegInfo> CTestClientIO::Registers::DetailsOf(
+    std::shared_ptr<Registers> registers, ComparedRegisters compared) {
+  std::optional<Use> use;
+  if (!registers->m_bInUse) use.emplace(registers);
+  std::vector<CDlgEditTestDetails::RegInfo> details;
+  details.reserve(registers->m_known.size());
+  for (const auto& [name, record] : registers->m_known) {
+    details.push_back({record->GetName(), record->GetAddressText(0),
+                       static_cast<std::uint32_t>(record->GetValueText().size() / 2),
+                       compared.Contains(name)});
+  }
+  return details;
 }
 
 // Lifetime ------------------------------------------------------------------------------------------------
@@ -285,7 +303,9 @@ Status CTestClientIO::EditDetails() {
   const Life life = m_life;
   LoadFile();
   if (life.expired()) return S_OK;
-  CDlgEditTestDetails dialog(m_registers->m_known, m_compared);
+  std::vector<CDlgEditTestDetails::RegInfo> rows = Registers::DetailsOf(m_registers, m_compared);
+  if (life.expired()) return S_OK;
+  CDlgEditTestDetails dialog(std::move(rows));
   dialog.m_bIgnoreAddress = m_bIgnoreAddress;
   if (dialog.DoModal() != static_cast<int>(platform::IDOK) || life.expired()) return S_OK;
   m_compared = dialog.TakeCompared();

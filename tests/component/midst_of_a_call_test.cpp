@@ -8,6 +8,7 @@
 #include <set>
 
 #include "host/events.h"
+#include "host/test_client.h"
 #include "platform/base/files.h"
 #include "platform/gui/dialog.h"
 #include "platform/gui/list_edit.h"
@@ -165,6 +166,38 @@ TEST_F(MidstTest, OfAConnectOrADisconnectAnotherWaitsOrFails) {
   EXPECT_EQ(world.Sessions(), nullptr);
 }
 
+TEST_F(MidstTest, OfAConnectAnExceptionLeavesOneThatCanConnectAgain) {
+  World world;
+  Instance instance(file);
+  world.host.during["AddServer"] = [] { throw "a name"; };
+  EXPECT_THROW(instance.Connect(world.host), const char*);
+  world.host.during["AddServer"] = [&] {
+    EXPECT_EQ(instance.Disconnect(), S_OK) << "waits";
+    throw "a name";
+  };
+  EXPECT_THROW(instance.Connect(world.host), const char*);
+  EXPECT_EQ(world.Stepping(), nullptr);
+  world.host.during.clear();
+  EXPECT_EQ(instance.Connect(world.host), S_OK);
+  EXPECT_EQ(instance.Disconnect(), S_OK);
+  EXPECT_EQ(world.Sessions(), nullptr);
+}
+
+TEST_F(MidstTest, OfTheEndOfAnInstanceItsHandleMayGetAnother) {
+  World world;
+  World other;
+  Instance instance(file);
+  instance.Connect(world.host);
+  world.host.during["RemoveClient"] = [&, done = false]() mutable {
+    if (std::exchange(done, true)) return;
+    file.CreateInstance(&instance);
+    EXPECT_EQ(instance.Connect(other.host), S_OK);
+  };
+  file.CreateInstance(&instance);
+  instance.Destroy();
+  EXPECT_EQ(other.Sessions(), nullptr);
+}
+
 TEST_F(MidstTest, OfATextOfTheHostsAnythingMayGo) {
   const std::map<std::string, std::pair<bool, Act>> operations = {
       {"the view opens", {false, [](Life& life) { life.world.OpenView(), life.world.Expand(0, 0); }}},
@@ -180,6 +213,11 @@ TEST_F(MidstTest, OfATextOfTheHostsAnythingMayGo) {
           const platform::HTREEITEM row = life.world.Grid(0)->GetItemAtRow(0);
           life.world.Grid(0)->Expand(row, platform::TVE_COLLAPSE);
           life.world.Grid(0)->Expand(row, platform::TVE_EXPAND);
+        }}},
+      {"the choice of registers to compare",
+       {true,
+        [](Life& life) {
+          static_cast<IQTestClient*>(life.world.host.Registered(IID_IQTestClient))->EditDetails();
         }}},
       {"a search",
        {true,
