@@ -191,13 +191,16 @@ void CPvwIODataCommandSink::OnOpenIOWindow() {
     std::string text;
     m_pUiRegistrar->FindDockableWindow(m_windowId, title, this, kFindHidden, kBottomDockBar, &window,
                                        nullptr);
-    if (window != 0) {
-      m_pUiRegistrar->SetDockState(window, kShowWindow);
-    } else {
+    if (!watch.Stands()) return;
+    bool shows = window != 0;
+    if (window == 0) {
       m_pUiRegistrar->FindDockableWindow(m_windowId, title, this, kMakeWindow, kBottomDockBar, &window,
                                          &text);
-      if (window != 0 && !m_bRestoring) m_pUiRegistrar->SetDockState(window, kShowWindow);
+      if (!watch.Stands()) return;
+      shows = window != 0 && !m_bRestoring;
     }
+    if (shows) m_pUiRegistrar->SetDockState(window, kShowWindow);
+    if (!watch.Stands()) return;
     if (window != 0) MakePanes(window, file_found);
   }
   if (watch.Stands()) UpdateWindow();
@@ -243,7 +246,11 @@ void CPvwIODataCommandSink::MakePanes(HWND window, bool file_found) {
 }
 
 bool CPvwIODataCommandSink::AddPane(HWND window, std::size_t index, bool file_found) {
+  // The host is asked for owner ids, then for the texts of the rows, and a faulty file is told to the user:
+  // the host may disconnect meanwhile.
+  const Watch<CPvwIODataCommandSink> watch(this);
   auto made = std::make_unique<CPvwIOInstanceCtrl>(m_pIOFile, m_pIOData, index, m_pHost, m_pUiRegistrar, 0);
+  if (!watch.Stands()) return false;
   CPvwIOInstanceCtrl& pane = *made;
   pane.SetFrame(this);
   // Before there are rows: what the host has loaded while they are made goes for them as well.
@@ -251,8 +258,6 @@ bool CPvwIODataCommandSink::AddPane(HWND window, std::size_t index, bool file_fo
     first->LinkOtherPane(&pane);
     pane.LinkOtherPane(first);
   }
-  // Rows tell the user of a faulty file, and ask the host for texts; it may disconnect meanwhile.
-  const Watch<CPvwIODataCommandSink> watch(this);
   m_pPaneInMaking = &pane;
   const bool created = pane.CreatePane(window, GetHandle());
   if (!watch.Stands()) return false;

@@ -94,7 +94,7 @@ class CPvwIOInstanceCtrl : public CPvwDebugInstanceDataCtrl {
   platform::LRESULT OnCreate(const platform::MSG& msg);
   platform::LRESULT OnDestroy(const platform::MSG& msg);
   platform::LRESULT OnSetFocus(const platform::MSG& msg);
-  void RegisterAtHost();
+  bool RegisterAtHost();  // false when the host has ended the pane meanwhile
   bool CreateTree(const std::string (&titles)[4]);
   platform::HWND GetParentHandle() const;
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "component/services/module_state.h"
+#include "frame/controls/row_walk.h"
 #include "platform/base/message_box.h"
 #include "platform/base/resources.h"
 #include "platform/base/text.h"
@@ -24,43 +25,6 @@ namespace {
 // Depths of rows; below bit fields nothing is looked at.
 constexpr int kRegisterDepth = 1;
 constexpr int kBitfieldDepth = 2;
-
-// The rows in the order of the screen, down to a depth. It knows the depth that it is at: the tree needn't be
-// asked row by row.
-class RowWalk {
- public:
-  RowWalk(const platform::SECTreeCtrl& tree, int deepest)
-      : m_tree(tree), m_deepest(deepest), m_row(tree.GetRootItem()) {}
-  void StartBehind(platform::HTREEITEM row) {
-    m_row = row;
-    m_depth = m_tree.GetItemDepth(row);
-    Next();
-  }
-
-  platform::HTREEITEM Row() const { return m_row; }  // 0 at the end
-  int Depth() const { return m_depth; }
-  void Next() {
-    if (const platform::HTREEITEM child = m_depth < m_deepest ? m_tree.GetChildItem(m_row) : 0) {
-      m_row = child;
-      ++m_depth;
-      return;
-    }
-    while (m_row != 0) {
-      if (const platform::HTREEITEM sibling = m_tree.GetNextSiblingItem(m_row)) {
-        m_row = sibling;
-        return;
-      }
-      m_row = m_tree.GetParentItem(m_row);
-      --m_depth;
-    }
-  }
-
- private:
-  const platform::SECTreeCtrl& m_tree;
-  const int m_deepest;
-  platform::HTREEITEM m_row;
-  int m_depth = 0;
-};
 
 }  // namespace
 

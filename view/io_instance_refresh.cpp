@@ -1,8 +1,9 @@
 // What brings a pane's rows up to date with the records, and the records with the file.
 
+#include <limits>
 #include <tuple>
 
-#include "frame/controls/tree_grid_state.h"
+#include "frame/controls/row_walk.h"
 #include "platform/base/files.h"
 #include "platform/base/message_box.h"
 #include "platform/base/resources.h"
@@ -43,10 +44,8 @@ void CPvwIOInstanceCtrl::UpdateRowValues(HTREEITEM item) {
   const Watch<CPvwIOInstanceCtrl> rows(this);
   UpdateRowValue(item, rows);
   if (!rows.Stands()) return;
-  const int depth = m_tree.GetItemDepth(item);
-  for (HTREEITEM row = NextRow(m_tree, item, true); row != 0 && m_tree.GetItemDepth(row) > depth;
-       row = NextRow(m_tree, row, true)) {
-    UpdateRowValue(row, rows);
+  for (RowWalk walk(m_tree, std::numeric_limits<int>::max(), item); walk.Row() != 0; walk.Next()) {
+    UpdateRowValue(walk.Row(), rows);
     if (!rows.Stands()) return;
   }
 }

@@ -35,37 +35,48 @@ platform::LRESULT CPvwIOInstanceCtrl::OnCreate(const platform::MSG& msg) {
   const std::string titles[] = {
       platform::LoadString(IDS_COLUMN_NAME), platform::LoadString(IDS_COLUMN_ADDRESS),
       platform::LoadString(IDS_COLUMN_VALUE), platform::LoadString(IDS_COLUMN_ACCESS)};
-  if (uiRegistrar != nullptr) RegisterAtHost();
+  // The host may end the pane in the midst of each of the calls that it gets.
+  const platform::HWND self = GetHandle();
+  if (uiRegistrar != nullptr && !RegisterAtHost()) return -1;
   if (!CreateTree(titles)) {
     ReleaseHostUi();
     return -1;
   }
   m_tree.LoadColumnWidths(settings, kSettingsSection);
+  if (!platform::IsWindow(self)) return -1;
+  const std::string path = ExpandedIOFilePath();
+  if (!platform::IsWindow(self)) return -1;
   std::uint64_t time = 0;
-  if (GetFileWriteTime(ExpandedIOFilePath(), time)) m_pFrame->SetIOFileWriteTime(time);
+  if (GetFileWriteTime(path, time)) m_pFrame->SetIOFileWriteTime(time);
   FillTree(false);
   return 0;
 }
 
-void CPvwIOInstanceCtrl::RegisterAtHost() {
+bool CPvwIOInstanceCtrl::RegisterAtHost() {
   const platform::HWND parent = GetParentHandle();
   const platform::HWND self = GetHandle();
   const platform::HMODULE module = ComponentModule();
+  const auto stands = [self] { return platform::IsWindow(self); };
   uiRegistrar->AddPage(parent, self, -1, m_pFrame->GetPaneTitle(m_paneIndex), menuOwnerId, CLSID_PvwIO);
 
-  uiRegistrar->AddPopupMenu(self, module, IDM_PANE, menuOwnerId, CLSID_PvwIO);
-  uiRegistrar->AddCommandSink(menuOwnerId, CLSID_PvwIO, self);
-  uiRegistrar->AddCommandStrings(module, menuOwnerId, CLSID_PvwIO);
+  if (stands()) uiRegistrar->AddPopupMenu(self, module, IDM_PANE, menuOwnerId, CLSID_PvwIO);
+  if (stands()) uiRegistrar->AddCommandSink(menuOwnerId, CLSID_PvwIO, self);
+  if (stands()) uiRegistrar->AddCommandStrings(module, menuOwnerId, CLSID_PvwIO);
 
   static constexpr std::uint32_t kFifthList[] = {ID_LOAD_IO_FILE, ID_PRINT, ID_SAVE_TO_FILE};
-  uiRegistrar->AddPaneToolbar(parent, module, IDT_PANE, 0, menuOwnerId, CLSID_PvwIO,
-                              {{{}, {}, {}, {}, kFifthList}});
+  if (stands()) {
+    uiRegistrar->AddPaneToolbar(parent, module, IDT_PANE, 0, menuOwnerId, CLSID_PvwIO,
+                                {{{}, {}, {}, {}, kFifthList}});
+  }
 
-  uiRegistrar->AddAccelerators(platform::ResourceModule(), IDA_PANE, acceleratorOwnerId,
-                               CLSID_PaneAccelerators);
-  uiRegistrar->AddCommandSink(acceleratorOwnerId, CLSID_PaneAccelerators, self);
-  uiRegistrar->SetAcceleratorWindow(self, acceleratorOwnerId, CLSID_PaneAccelerators);
-  uiRegistrar->AddCommandStrings(module, acceleratorOwnerId, CLSID_PaneAccelerators);
+  if (stands()) {
+    uiRegistrar->AddAccelerators(platform::ResourceModule(), IDA_PANE, acceleratorOwnerId,
+                                 CLSID_PaneAccelerators);
+  }
+  if (stands()) uiRegistrar->AddCommandSink(acceleratorOwnerId, CLSID_PaneAccelerators, self);
+  if (stands()) uiRegistrar->SetAcceleratorWindow(self, acceleratorOwnerId, CLSID_PaneAccelerators);
+  if (stands()) uiRegistrar->AddCommandStrings(module, acceleratorOwnerId, CLSID_PaneAccelerators);
+  return stands();
 }
 
 bool CPvwIOInstanceCtrl::CreateTree(const std::string (&titles)[4]) {

@@ -87,12 +87,13 @@ Status CTreeGridCtrl::SaveColumnWidths(IQSettings* settings, std::string_view se
 Status CTreeGridCtrl::LoadColumnWidths(IQSettings* settings, std::string_view section) {
   if (settings == nullptr || GetColumnCount() <= 1) return platform::S_OK;
   const platform::ScopedBstr section_name(section);
+  const platform::HWND self = GetHandle();
   for (int column = 0; column < GetColumnCount(); ++column) {
     const platform::ScopedBstr key(WidthKey({}, column));
     std::int32_t width = 0;
-    if (platform::Failed(settings->ReadSectionInt(section_name.Get(), key.Get(), &width))) {
-      width = StoredWidth(column);
-    }
+    const Status status = settings->ReadSectionInt(section_name.Get(), key.Get(), &width);
+    if (self != 0 && !platform::IsWindow(self)) return platform::E_FAIL;
+    if (platform::Failed(status)) width = StoredWidth(column);
     if (width > 0) {
       SetColumnWidth(column, width);
       SetHiddenWidth(column, static_cast<std::uint32_t>(width));
