@@ -54,8 +54,8 @@ const std::u16string* SessionValues::Find(const Names& names, std::u16string_vie
   return at < session.entries.size() ? &session.entries[at].value : nullptr;
 }
 
-const std::vector<SessionValues::Entry>& SessionValues::Entries(const Names& names) const {
-  static const std::vector<Entry> kNone;
+const std::deque<SessionValues::Entry>& SessionValues::Entries(const Names& names) const {
+  static const std::deque<Entry> kNone;
   const auto place = places_.find(names);
   return place != places_.end() ? sessions_[place->second].second.entries : kNone;
 }

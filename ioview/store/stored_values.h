@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <memory>
 #include <memory_resource>
@@ -36,7 +37,7 @@ class SessionValues {
   // Null when the key is missing. Good until the next Set.
   const std::u16string* Find(const Names& names, std::u16string_view key) const;
   // Empty where nothing is stored.
-  const std::vector<Entry>& Entries(const Names& names) const;
+  const std::deque<Entry>& Entries(const Names& names) const;
   // Every combination of names that has a value, in the order of their first values.
   std::vector<Names> AllNames() const;
   // Counts changes: a value that was new or differed from the one before.
@@ -48,7 +49,7 @@ class SessionValues {
     // them.
     std::shared_ptr<std::pmr::memory_resource> key_memory =
         std::make_shared<std::pmr::monotonic_buffer_resource>();
-    std::vector<Entry> entries;
+    std::deque<Entry> entries;  // which no growth moves
     KeyIndex index;
     // Behind the entry that was asked for last: a component saves and loads its keys in one order.
     mutable std::size_t next = 0;
