@@ -127,6 +127,8 @@ void CTestClientIO::Registers::AddRegisters(const CIORec& module) {
   }
 }
 
+// The copies are the point.
+// NOLINTBEGIN(performance-unnecessary-value-param)
 std::vector<CDlgEditTestDetails::RegInfo> CTestClientIO::Registers::DetailsOf(
     std::shared_ptr<Registers> registers, ComparedRegisters compared) {
   std::optional<Use> use;
@@ -140,6 +142,7 @@ std::vector<CDlgEditTestDetails::RegInfo> CTestClientIO::Registers::DetailsOf(
   }
   return details;
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 // Lifetime ------------------------------------------------------------------------------------------------
 
