@@ -29,7 +29,8 @@ class RowWalk {
       ++m_depth;
       return;
     }
-    while (m_row != m_top) {
+    // A row that has gone meanwhile has no parent: the walk ends there.
+    while (m_row != m_top && m_row != 0) {
       if (const platform::HTREEITEM sibling = m_tree.GetNextSiblingItem(m_row)) {
         m_row = sibling;
         return;

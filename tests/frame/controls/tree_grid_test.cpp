@@ -8,6 +8,7 @@
 #include <functional>
 #include <utility>
 
+#include "frame/controls/row_walk.h"
 #include "frame/controls/tree_grid_ctrl.h"
 #include "frame/controls/tree_print.h"
 #include "host/host_ptr.h"
@@ -133,6 +134,19 @@ TEST_F(TreeGridTest, AnOpenEditGivesItsTextKeepsTheColumnsAndEndsWithoutAWordOnc
   EXPECT_TRUE(tree.GetEditText(text));
   tree.DestroyWindow();
   EXPECT_EQ(edits_ended, 1);
+}
+
+TEST_F(TreeGridTest, AWalkGoesOverTheRowsBelowItsTopAndEndsWhereItsRowHasGone) {
+  Fill("-A\n  -a\n    x\n  b\nB\n");
+  std::string walked;
+  for (RowWalk walk(tree, 1, items["A"]); walk.Row() != 0; walk.Next()) {
+    walked += tree.GetItemText(walk.Row(), 0) + std::to_string(walk.Depth());
+  }
+  EXPECT_EQ(walked, "a0x1b0");
+  RowWalk walk(tree, 1, items["A"]);
+  tree.DeleteItem(items["a"]);
+  walk.Next();
+  EXPECT_EQ(walk.Row(), 0u);
 }
 
 TEST_F(TreeGridTest, FindsTheRowThatTheSelectionLiesBelow) {
